@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "thermo/saturation.h"
+
+#include <cmath>
+
+#include "thermo/cubic_equation.h"
+#include "thermo/vapour_pressure.h"
+
+namespace orva {
+
+namespace {
+
+// Limits of the search for p(LV).
+constexpr int pressurePasses = 300;
+constexpr double pressureRatioTolerance = 1e-5;
+constexpr double pressureRelativeStep = 1e-10; // a smaller step is a failure
+constexpr double pressureSmallestStep = 1e-5;  // kPa
+constexpr double pressureFlatSecant = 1e-11;
+constexpr double pressureFirstStep = 0.01; // of p
+
+// Limits of the search for T(LV).
+constexpr int temperaturePasses = 200;
+constexpr double temperatureRatioTolerance = 5e-5;
+constexpr double temperatureRelativeStep = 1e-12;
+constexpr double temperatureSmallestStep = 1e-9; // K
+constexpr double temperatureFlatSecant = 1e-7;
+constexpr double temperatureFirstStep = 0.01; // of T, and the largest step
+
+// Limits of the low-pressure scan for T(LV).
+constexpr double scanBelow = 0.02; // of p(cr)
+constexpr int scanPasses = 60;
+constexpr double scanRatioTolerance = 2e-4;
+constexpr double scanSmallestStep = 5e-4; // K
+
+constexpr double stepReduction = 0.1;
+constexpr double smallestIterate = 1e-10;
+
+enum class Pass { Continue, Converged, Failed };
+
+bool SameSingle(double a, double b) { return static_cast<float>(a) == static_cast<float>(b); }
+
+SaturationResult Failure(const SaturationResult& search = {}) {
+    return {0, search.areaRatio, search.area1, search.area2, true};
+}
+
+// The critical point itself. Kept on purpose: the volumes are 1 / rhoCritCalc, not M / rhoCritCalc.
+SaturationResult CriticalShortcut(SubstanceModel& model, double value) {
+    if (model.eos.rhoCritCalc > 0)
+        model.work.Roots[0] = 1 / model.eos.rhoCritCalc;
+    model.work.Roots[2] = model.work.Roots[0];
+    SaturationResult result;
+    result.value = value;
+    return result;
+}
+
+void TakeAreas(SaturationResult& search, const AreaRatio& areas) {
+    search.areaRatio = areas.ratio;
+    search.area1 = areas.area1;
+    search.area2 = areas.area2;
+    search.failed = areas.failed;
+}
+
+// What both secant searches remember between passes. `x` is the iterate, p or T.
+struct SecantState {
+    double value = 0;
+    double step = 0;
+    double wOld = 0;                // kind of the last single root
+    double valueOld = 0, ratioOld = 0; // last pass with three roots
+    int singlePasses = 0, triplePasses = 0, restarts = 0;
+
+    void Advance() { value += step; }
+
+    // A search that ran below zero starts again near it.
+    void RestartNearZero() {
+        ++restarts;
+        value = 0.01 / restarts;
+        step = (valueOld - value) * stepReduction;
+    }
+};
+
+// Kind of a single root: -1 for a liquid-like one, its volume for a vapour-like one.
+double RootKind(double root, double vCrit) { return root < vCrit ? -1 : root; }
+
+// One root means that the trial pressure lies outside of the loop: too high for a liquid-like root, too low for a
+// vapour-like one.
+void SteerPressure(SecantState& s, double root, double vCrit) {
+    ++s.singlePasses;
+    const double w = RootKind(root, vCrit);
+    if (s.singlePasses == 1) {
+        s.step *= stepReduction;
+        if (std::abs(s.step) < pressureSmallestStep)
+            s.step = -pressureFirstStep * s.value;
+    } else if (w * s.wOld < 1e-6) {
+        s.step *= stepReduction;
+    }
+    s.step = root < vCrit ? -std::abs(s.step) : std::abs(s.step);
+    s.wOld = w;
+}
+
+Pass SecantPressure(SecantState& s, double x) {
+    ++s.triplePasses;
+    if (s.triplePasses == 1) {
+        if (std::abs(s.step) < pressureSmallestStep)
+            s.step = pressureFirstStep * s.value;
+        if (x < 0)
+            s.step = -std::abs(s.step);
+        if (x > 0)
+            s.step = std::abs(s.step);
+    } else {
+        if (std::abs(x) < pressureRatioTolerance)
+            return Pass::Converged;
+        if (std::abs(x - s.ratioOld) > pressureFlatSecant) {
+            s.step = -(s.value - s.valueOld) * x / (x - s.ratioOld);
+        } else {
+            s.step = pressureFirstStep * s.value;
+            if (x < s.ratioOld)
+                s.step = -s.step;
+        }
+        if (std::abs(s.step / s.value) < pressureRelativeStep)
+            return Pass::Failed;
+    }
+    s.valueOld = s.value;
+    s.ratioOld = x;
+    return Pass::Continue;
+}
+
+double StartPressure(const SubstanceModel& model, double T) {
+    double p = 0;
+    if (model.selection.vaporPressure != vpNone)
+        p = VapourPressure(model.substance, T, model.selection.vaporPressure).value;
+    if (p < 1e-6)
+        p = std::exp(T * std::log(model.substance.pc) / model.substance.Tc);
+    return p;
+}
+
+// One root means that the trial temperature lies outside of the loop: too low for a liquid-like root.
+void SteerTemperature(SecantState& s, double root, double vCrit) {
+    const double w = RootKind(root, vCrit);
+    if (s.singlePasses == 1) {
+        s.step *= stepReduction;
+        if (std::abs(s.step) < temperatureSmallestStep)
+            s.step = temperatureFirstStep * s.value;
+    } else if (w * s.wOld < 0) {
+        s.step *= stepReduction;
+    }
+    s.step = root < vCrit ? std::abs(s.step) : -std::abs(s.step);
+    s.wOld = w;
+}
+
+Pass SecantTemperature(SecantState& s, double x) {
+    ++s.triplePasses;
+    if (s.triplePasses == 1) {
+        if (std::abs(s.step) < temperatureSmallestStep)
+            s.step = temperatureFirstStep * s.value;
+        if (x > 0)
+            s.step = -std::abs(s.step);
+        if (x < 0)
+            s.step = std::abs(s.step);
+    } else {
+        if (std::abs(x) < temperatureRatioTolerance)
+            return Pass::Converged;
+        const double largest = temperatureFirstStep * s.value;
+        if (std::abs(x - s.ratioOld) > temperatureFlatSecant) {
+            s.step = -(s.value - s.valueOld) * x / (x - s.ratioOld);
+            if (std::abs(s.step) > largest)
+                s.step = std::copysign(largest, s.step);
+        } else {
+            s.step = x > s.ratioOld ? -largest : largest;
+        }
+        if (std::abs(s.step / s.value) < temperatureRelativeStep)
+            return Pass::Failed;
+    }
+    s.valueOld = s.value;
+    s.ratioOld = x;
+    return Pass::Continue;
+}
+
+SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstart) {
+    const double Tc = model.substance.Tc;
+    const double vCrit = model.eos.vCritCalc;
+    SaturationResult result;
+    SecantState s;
+    s.value = Tstart == 0 ? std::log(p) * Tc / std::log(model.substance.pc) : Tstart;
+    for (int pass = 1; pass <= temperaturePasses; ++pass) {
+        SetEosCoefficients(model, s.value);
+        const CubicSolution cubic = SolveEosCubic(model, s.value, p);
+        if (!(model.work.Roots[0] > model.eos.B) || cubic.rootCount == 0)
+            return Failure(result);
+        if (cubic.rootCount == 1) {
+            if (++s.singlePasses > temperaturePasses)
+                return Failure(result);
+            SteerTemperature(s, model.work.Roots[0], vCrit);
+        } else {
+            const AreaRatio areas = MaxwellAreaRatio(model, s.value, p);
+            TakeAreas(result, areas);
+            const Pass next = SecantTemperature(s, areas.ratio);
+            if (next == Pass::Failed)
+                return Failure(result);
+            if (next == Pass::Converged) {
+                result.value = s.value;
+                return result.failed ? Failure(result) : result;
+            }
+        }
+        s.Advance();
+        if (SameSingle(s.value, Tc)) {
+            result.value = s.value;
+            return result;
+        }
+        if (s.value < smallestIterate)
+            s.RestartNearZero();
+    }
+    return Failure(result);
+}
+
+// Scan downward from T(cr). Kept on purpose: the first step in kelvins is the number (p(cr) - p) / 100 in kPa.
+SaturationResult ScanTemperature(SubstanceModel& model, double p) {
+    SaturationResult result;
+    double q = (model.substance.pc - p) / 100;
+    double T = model.substance.Tc + q;
+    double xOld = p;
+    for (int pass = 1; pass <= scanPasses; ++pass) {
+        T -= q;
+        if (T <= 0) {
+            T += q;
+            q *= stepReduction;
+            continue;
+        }
+        SetEosCoefficients(model, T);
+        const CubicSolution cubic = SolveEosCubic(model, T, p);
+        if (!(model.work.Roots[0] > model.eos.B))
+            return Failure(result);
+        if (cubic.rootCount < 3)
+            continue;
+        const AreaRatio areas = MaxwellAreaRatio(model, T, p);
+        TakeAreas(result, areas);
+        const double r = xOld / areas.ratio;
+        xOld = areas.ratio;
+        if (r > 0)
+            continue;
+        q *= -stepReduction;
+        if (std::abs(areas.ratio) < scanRatioTolerance || std::abs(q) < scanSmallestStep) {
+            if (T < 1e-6 || !std::isfinite(T) || areas.failed)
+                return Failure(result);
+            result.value = T;
+            return result;
+        }
+    }
+    return Failure(result);
+}
+
+} // namespace
+
+SaturationResult EosSaturationPressure(SubstanceModel& model, double T) {
+    const double Tc = model.substance.Tc;
+    const double pc = model.substance.pc;
+    if (T == Tc)
+        return CriticalShortcut(model, pc);
+    SetEosCoefficients(model, T);
+    if (!(T < Tc) || model.selection.eos == eosNotChosen || model.selection.nonCubic)
+        return Failure();
+    SaturationResult result;
+    SecantState s;
+    s.value = StartPressure(model, T);
+    for (int pass = 1; pass <= pressurePasses; ++pass) {
+        const CubicSolution cubic = SolveEosCubic(model, T, s.value);
+        if (!(model.work.Roots[0] > model.eos.B) || cubic.rootCount == 0)
+            return Failure(result);
+        if (cubic.rootCount == 1) {
+            SteerPressure(s, model.work.Roots[0], model.eos.vCritCalc);
+        } else {
+            const AreaRatio areas = MaxwellAreaRatio(model, T, s.value);
+            TakeAreas(result, areas);
+            const Pass next = SecantPressure(s, areas.ratio);
+            if (next == Pass::Failed)
+                return Failure(result);
+            if (next == Pass::Converged) {
+                result.value = s.value;
+                return result.failed ? Failure(result) : result;
+            }
+        }
+        s.Advance();
+        if (SameSingle(s.value, pc)) {
+            result.value = s.value;
+            return result;
+        }
+        if (s.value < smallestIterate)
+            s.RestartNearZero();
+    }
+    return Failure(result);
+}
+
+SaturationResult EosSaturationTemperature(SubstanceModel& model, double p, double Tstart) {
+    const double pc = model.substance.pc;
+    if (p == pc)
+        return CriticalShortcut(model, model.substance.Tc);
+    if (!(p > 0 && p < pc) || model.selection.eos == eosNotChosen || model.selection.nonCubic)
+        return Failure();
+    return p / pc < scanBelow ? ScanTemperature(model, p) : SearchTemperature(model, p, Tstart);
+}
+
+} // namespace orva
