@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calc/calc_batch.h"
+
+#include "calc/point_kinds.h"
+#include "calc/report_blocks.h"
+#include "calc/units.h"
+#include "state/constants.h"
+
+namespace orva {
+
+namespace {
+
+constexpr int verdictSize = 10; // points, of the words on the given state
+
+using KindFunction = void (*)(PointRun&);
+
+struct KindRow {
+    int kind;
+    KindFunction calculate;
+};
+
+constexpr KindRow kindTable[] = {
+    {kindTP, CalculateFromTP},
+};
+
+const KindRow* FindKind(int kind) {
+    for (const KindRow& row : kindTable)
+        if (row.kind == kind)
+            return &row;
+    return nullptr;
+}
+
+void PrepareRun(CalculationContext& context) {
+    context.model.work.Roots = {};
+    EosStateRecord& state = context.calculation.eosState;
+    state.rootIndex = 0;
+    state.zV = state.zL = 0;
+    state.pEos = 0;
+    context.options.energyFactor =
+        EnergyFactor(context.options.unitBasis, context.calculation.diagramTemperature, context.model.substance);
+}
+
+// The words on a given state beyond the critical point. A state on a border keeps what the equation of state said.
+void JudgeGivenState(PointRun& run) {
+    PointResult& result = run.result;
+    SubstanceModel& model = run.context.model;
+    const double Tc = model.substance.Tc;
+    const double pc = model.substance.pc;
+    const double T = run.T;
+    const double p = run.p;
+    result.co1.colour = TextColour::Blue;
+    result.co1.bold = true;
+    result.co1.size = verdictSize;
+    std::int16_t& verdict = model.work.RegionCode;
+    if (static_cast<float>(T) == static_cast<float>(Tc) && static_cast<float>(p) == static_cast<float>(pc)) {
+        verdict = 4;
+        result.co1.text = "=> kritischer Punkt (T = T(cr), p = p(cr))";
+    } else if (p < pc && T < Tc) {
+        verdict = 0;
+        result.co1 = ResultLabel{result.co1.text};
+    } else if (p > pc && T > Tc) {
+        verdict = 2;
+        result.co1.text = "=> überkritische Phase L = V (T > T(cr), p > p(cr))";
+    } else if (p > pc) {
+        verdict = 1;
+        result.co1.text = "=> überkritische L-Phase (T < T(cr), p > p(cr))";
+        result.lblVphase = "L-Phase";
+    } else if (T > Tc && p == 0) {
+        verdict = 3;
+        result.co1.text = "=> überkritische Phase (T > T(cr))";
+    } else if (T > Tc) {
+        verdict = 3;
+        result.co1.text = "=> überkritische V-Phase (T > T(cr), p < p(cr))";
+        result.lblLphase = "V-Phase";
+    }
+}
+
+// The diagnosis window explains a genuine cubic solution only.
+bool DiagnosisPossible(const PointRun& run) {
+    const ModelSelection& selection = run.context.model.selection;
+    const int kind = run.result.kind;
+    if (run.result.failed || selection.nonCubic || !run.context.calculation.GlobalMethod)
+        return false;
+    if (kind == kindPolytrope || kind == kindVirialComparison || (kind >= 14 && kind <= 22))
+        return false;
+    if (!selection.eosPriority && (kind == kindSaturationPressure || kind == kindSaturationTemperature))
+        return false;
+    return (kind != kindVaporisationAtT && kind != kindVaporisationAtP) || selection.vaporization == 7;
+}
+
+void BlankRecord(ResultRecord& record) {
+    record.phase = "   ";
+    record.Tcalc = record.pcalc = record.rhoV = record.rhoL = record.hLV = 0;
+}
+
+void CommonEnd(PointRun& run) {
+    PointResult& result = run.result;
+    const bool cubic = !run.context.model.selection.nonCubic;
+    result.hasL = run.phases.hasL;
+    result.hasV = run.phases.hasV;
+    result.lblLphaseVisible = result.hasL;
+    result.lblVphaseVisible = result.hasV;
+    if (cubic)
+        JudgeGivenState(run);
+    result.phaseVerdict = run.context.model.work.RegionCode;
+    result.lblGleichVisible = cubic && (result.phaseVerdict == 2 || result.phaseVerdict == 4);
+    if (result.failed) {
+        BlankRecord(result.record);
+    } else {
+        result.record.T = result.record.p = result.record.v = 0;
+        AppendParameterTrailer(run);
+    }
+    if (result.hasV && !result.hasL)
+        result.liquidPercent = 0;
+    if (result.hasL && !result.hasV)
+        result.liquidPercent = 100;
+    result.diagnoseEnabled = DiagnosisPossible(run);
+    result.T = run.T;
+    result.p = run.p;
+    result.roots = run.context.model.work.Roots;
+}
+
+} // namespace
+
+bool IsKindAvailable(int kind) { return FindKind(kind) != nullptr; }
+
+PointResult CalcBatch(CalculationContext& context, int kind, int dataSet, RunOptions options) {
+    PointResult result;
+    result.kind = kind;
+    const KindRow* row = FindKind(kind);
+    if (row == nullptr) {
+        result.failed = true;
+        return result;
+    }
+    context.calculation.CurrentDataSet = dataSet;
+    PrepareRun(context);
+    PointRun run{context, result, options, 0, 0, {}};
+    row->calculate(run);
+    CommonEnd(run);
+    return result;
+}
+
+} // namespace orva

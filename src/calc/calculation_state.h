@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace orva {
+
+// Numbers of the calculations, in the order of their making; the menu has its own order.
+enum CalcKindNumber : std::int16_t {
+    kindNone = 0,
+    kindTRho = 1,
+    kindTRhoLiquid = 2,
+    kindTP = 3,
+    kindSaturationPressure = 4,
+    kindSaturationTemperature = 5,
+    kindVaporisationAtT = 6,
+    kindVaporisationAtP = 7,
+    kindFunctions = 8,
+    kindVesselGlobal = 9,
+    kindVesselPartial = 10,
+    kindVirialComparison = 11,
+    kindPolytrope = 12,
+    kindPRho = 13,
+    kindLiquidDensity = 14,
+    kindVaporisationDb = 15,
+    kindIdealGasCp = 16,
+    kindLiquidCp = 17,
+    kindSolidCp = 18,
+    kindFrostKalkwarf = 19,
+    kindWagner = 20,
+    kindAntoineLow = 21,
+    kindAntoineHigh = 22,
+    kindSolidDensity = 24
+};
+
+// What the input window asks for: kind + 100, or one of these.
+inline constexpr int inputContextReference = 4;
+inline constexpr int inputContextVessel = 33;
+inline constexpr int inputContextOffset = 100;
+
+// Second reference point of the Benson method, beside the critical point: K, kPa, kg/m^3.
+struct ReferenceDensityPoint {
+    float T = 0, p = 0, rhoL = 0, rhoV = 0;
+};
+
+// The last solution of the cubic equation, as the diagnosis window shows it.
+struct EosStateRecord {
+    float T = 0;
+    bool hasL = false, hasV = false;
+    std::array<double, 3> v{};
+    int rootIndex = 0;
+    float zV = 0, zL = 0;
+    double pEos = 0;
+};
+
+// The calculation in force and how it treats equilibrium.
+struct CalculationState {
+    std::int16_t CalcKind = kindNone;
+    bool GlobalMethod = true; // both phases from the cubic equation; false: vapour pressure and liquid correlation
+    bool BensonLiquid = false;
+    ReferenceDensityPoint referenceDensity;
+    bool ReferenceDensityPointValid = false;
+    bool AssumeEquilibrium = false; // T, p: the user says that they describe equilibrium
+    int InputContext = 0;
+    int CurrentDataSet = 0;
+    int ExtendedLevel = 1; // 1 none, 2 coefficients, 3 derivatives, 4 both
+    bool FunctionList = false;
+    double diagramTemperature = 298.15; // K, for energies divided by R T
+    EosStateRecord eosState;
+};
+
+} // namespace orva

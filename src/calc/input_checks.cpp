@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calc/input_checks.h"
+
+#include "state/constants.h"
+#include "text/columns.h"
+
+namespace orva {
+
+namespace {
+
+const BatchRow& CurrentRow(const PointRun& run) {
+    static const BatchRow none;
+    const auto index = static_cast<std::size_t>(run.context.calculation.CurrentDataSet);
+    return index < run.context.batch.rows.size() ? run.context.batch.rows[index] : none;
+}
+
+bool Refuse(PointRun& run, ResultLabel& label, std::string_view text) {
+    label.text = text;
+    label.colour = TextColour::Red;
+    run.result.failed = true;
+    return false;
+}
+
+// The heat capacities of single phases are asked for below the triple point too.
+bool WarnsAtTriplePoint(int kind) {
+    return kind != kindIdealGasCp && kind != kindSolidCp && kind != kindSolidDensity;
+}
+
+} // namespace
+
+bool TakeTemperature(PointRun& run, ResultLabel& label) {
+    const double T = CurrentRow(run).T;
+    if (!(T >= missingValue))
+        return Refuse(run, label, "kein T in diesem Datensatz");
+    const SubstanceModel& model = run.context.model;
+    if (static_cast<float>(T) < model.substance.Ttrip && run.options.warn && !model.selection.nonCubic
+        && WarnsAtTriplePoint(run.result.kind))
+        run.result.messages.push_back({"Hinweis", "T ist kleiner als Tripelpunkt-Temperatur", MessageIcon::Information});
+    run.T = T;
+    run.result.results[slotT] = T;
+    return true;
+}
+
+bool TakePressure(PointRun& run, ResultLabel& label) {
+    const double p = CurrentRow(run).p;
+    if (!(p >= missingValue))
+        return Refuse(run, label, "kein p in diesem Datensatz");
+    run.p = p;
+    run.result.results[slotP] = p;
+    return true;
+}
+
+void ReportFailure(PointRun& run, std::string_view message) {
+    run.result.failed = true;
+    run.result.reportColour = TextColour::Red;
+    AppendLine(run, Spaces(25) + "Meldung von Sub CalcBatch:" + std::string(message));
+}
+
+std::string FailureNumber() { return " (E" + std::to_string(modelFailure) + ")"; }
+
+} // namespace orva

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "calc/report_blocks.h"
+
+namespace orva {
+
+// The given values of the data row. A value that is missing turns its label red, fails the run and returns false.
+bool TakeTemperature(PointRun& run, ResultLabel& label);
+bool TakePressure(PointRun& run, ResultLabel& label);
+
+// A property model failed: the report says so and turns red.
+void ReportFailure(PointRun& run, std::string_view message);
+
+// " (E-1)", the way a failure of a property model is written.
+std::string FailureNumber();
+
+} // namespace orva

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "calc/point_input.h"
+#include "calc/result_window.h"
+#include "calc_fixture.h"
+
+namespace orva::test {
+namespace {
+
+TEST(PointInput, AsksForWhatTheKindNeeds) {
+    const SubstanceData butane = Butane();
+    const Options options;
+    BatchDataSet batch;
+    struct Shown {
+        int kind;
+        bool T, p, rhoV, rhoL;
+    };
+    for (const Shown& s : {Shown{kindTP, true, true, false, false}, Shown{kindTRho, true, false, true, false},
+                           Shown{kindTRhoLiquid, true, false, false, true}, Shown{kindPRho, false, true, true, false},
+                           Shown{kindSaturationTemperature, false, true, false, false},
+                           Shown{kindLiquidDensity, true, false, false, false}}) {
+        PointInput input(s.kind, butane, options, batch);
+        EXPECT_EQ(input.Lines()[0].visible, s.T) << s.kind;
+        EXPECT_EQ(input.Lines()[1].visible, s.p) << s.kind;
+        EXPECT_EQ(input.Lines()[2].visible, s.rhoV) << s.kind;
+        EXPECT_EQ(input.Lines()[3].visible, s.rhoL) << s.kind;
+    }
+}
+
+TEST(PointInput, LabelsItsLines) {
+    const SubstanceData butane = Butane();
+    Options options;
+    BatchDataSet batch;
+    PointInput input(kindTRho, butane, options, batch);
+    EXPECT_EQ(input.Title(), "Eingabe Direktberechnung");
+    EXPECT_EQ(input.CommandText(), "&Berechnen");
+    EXPECT_EQ(input.Lines()[0].label, "      T/K = ");
+    EXPECT_EQ(input.Lines()[1].label, "      p/kPa = ");
+    EXPECT_EQ(input.Lines()[2].heading, " Eingabe Dichte kg/m^3");
+    EXPECT_EQ(input.Lines()[2].label, " rho/kg/m^3 = ");
+    input.SetVolumeInput(true);
+    EXPECT_EQ(input.Lines()[2].heading, " Eingabe mol. Volumen, vgl. \"Optionen\" ");
+    EXPECT_EQ(input.Lines()[2].label, " V/m^3/kmol = ");
+    options.volumeBasis = 1;
+    PointInput specific(kindTRho, butane, options, batch);
+    specific.SetVolumeInput(true);
+    EXPECT_EQ(specific.Lines()[2].heading, "Eingabe spezif. Volumen, vgl. Optionen ");
+    EXPECT_EQ(specific.Lines()[2].label, "  V/m^3/kg  = ");
+    options.volumeBasis = 2;
+    PointInput reduced(kindTRho, butane, options, batch);
+    reduced.SetVolumeInput(true);
+    EXPECT_EQ(reduced.Lines()[2].heading, "Eingabe reduz. Volumen, vgl. Optionen ");
+    EXPECT_EQ(reduced.Lines()[2].label, "  V/(m^3/m^3)= ");
+}
+
+TEST(PointInput, TakesCommaAndPoint) {
+    const SubstanceData butane = Butane();
+    const Options options;
+    BatchDataSet batch;
+    PointInput input(kindTP, butane, options, batch);
+    input.Lines()[0].text = "300,25";
+    input.Lines()[1].text = "1.5E2";
+    EXPECT_FALSE(input.Accept());
+    EXPECT_EQ(batch.rows[0].T, 300.25);
+    EXPECT_EQ(batch.rows[0].p, 150);
+}
+
+TEST(PointInput, RefusesInputWithoutANumberAndChangesNothing) {
+    const SubstanceData butane = Butane();
+    const Options options;
+    BatchDataSet batch;
+    batch.rows[0].T = 280;
+    for (const char* text : {"", "abc", "0", "-5", "1e-9"}) {
+        PointInput input(kindTP, butane, options, batch);
+        input.Lines()[0].text = text;
+        input.Lines()[1].text = "";
+        const auto message = input.Accept();
+        ASSERT_TRUE(message) << text;
+        EXPECT_EQ(message->title, "Ausführung nicht möglich");
+        EXPECT_EQ(message->text, "keine gültige Eingabe");
+        EXPECT_EQ(batch.rows[0].T, 280);
+    }
+}
+
+TEST(PointInput, AZeroTemperaturePassesTheSumAndIsReportedLater) {
+    const SubstanceData butane = Butane();
+    const Options options;
+    BatchDataSet batch;
+    PointInput input(kindTP, butane, options, batch);
+    input.Lines()[0].text = "0";
+    input.Lines()[1].text = "100";
+    EXPECT_FALSE(input.Accept());
+    EXPECT_EQ(batch.rows[0].T, 0);
+}
+
+TEST(PointInput, TurnsAVolumeIntoADensity) {
+    const SubstanceData butane = Butane();
+    Options options;
+    BatchDataSet batch;
+    PointInput input(kindTRho, butane, options, batch);
+    input.SetVolumeInput(true);
+    input.Lines()[0].text = "300";
+    input.Lines()[2].text = "2";
+    EXPECT_FALSE(input.Accept());
+    EXPECT_FLOAT_EQ(batch.rows[0].rhoV, 58.1222F / 2);
+    options.volumeBasis = 1;
+    options.volumeFactor = 1 / 58.1222;
+    PointInput specific(kindTRho, butane, options, batch);
+    specific.SetVolumeInput(true);
+    specific.Lines()[0].text = "300";
+    specific.Lines()[2].text = "0.5";
+    EXPECT_FALSE(specific.Accept());
+    EXPECT_NEAR(batch.rows[0].rhoV, 2, 1e-6);
+}
+
+TEST(PointInput, ShowsTheLastDirectInput) {
+    const SubstanceData butane = Butane();
+    const Options options;
+    BatchDataSet batch;
+    batch.rows[0].T = 310.5;
+    PointInput input(kindTP, butane, options, batch);
+    EXPECT_EQ(input.Lines()[0].text, "310.5");
+    EXPECT_EQ(input.Lines()[1].text, "");
+}
+
+TEST(ResultWindow, NamesTheCalculationInItsCaption) {
+    Calculation c;
+    c.state.CalcKind = kindTP;
+    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).Caption(), "Ergebnis der Berechnung  T, p => rho");
+    c.state.CalcKind = kindSaturationPressure;
+    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).Caption(),
+              "Ergebnis der Berechnung  T => p(LV) (Globalberechnung)");
+    c.state.GlobalMethod = false;
+    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).Caption(),
+              "Ergebnis der Berechnung  T => p(LV) (Partialberechnung)");
+}
+
+TEST(ResultWindow, StatusLineShowsPointsUnderADecimalComma) {
+    Calculation c;
+    c.style.decimal = ',';
+    c.model.selection.vaporPressure = vpWagner;
+    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).StatusLine(),
+              "CEOS Peng / Robinson; Wagner;  T(cr)/K = 425.13; p(cr)/kPa = 3796; v(cr, exp)/m^3/kmol= 0.2549; "
+              "v(cr, calc)= 0.2862 ");
+}
+
+TEST(ResultWindow, StatusLineLeavesOutWhatIsNotGiven) {
+    SubstanceData bare = Butane();
+    bare.vcDatabase = 0;
+    Calculation c(eosIdealGas, bare);
+    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).StatusLine(),
+              "Idealgas-EOS; keine;  T(cr)/K = 425.13; p(cr)/kPa = 3796 ");
+}
+
+TEST(ResultWindow, CalculatesTheRowInForce) {
+    Calculation c;
+    c.state.CalcKind = kindTP;
+    c.batch.rows[0].T = 300;
+    c.batch.rows[0].p = 100;
+    ResultWindow window(c.Context(), c.model.substance);
+    EXPECT_EQ(window.Calculate().record.phase, " V ");
+    EXPECT_EQ(window.Result().par1.text, "T = 300.000 K");
+}
+
+} // namespace
+} // namespace orva::test
