@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/road.h"
+
+#include "diagrams/default_ranges.h"
+#include "state/resets.h"
+#include "substance/substance_loading.h"
+#include "text/columns.h"
+#include "thermo/vapour_pressure.h"
+
+namespace orva {
+
+namespace {
+
+constexpr const char* masterDatabase = "ORVA.Q05";
+constexpr int firstCorrelatedEquation = vpFrostKalkwarfVdW;
+
+std::string PathText(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::filesystem::path PathOf(std::string_view text) { return {std::u8string(text.begin(), text.end())}; }
+
+void ReportLoadFailure(Session& session, const std::string& file) {
+    if (session.state.databaseLoaded)
+        session.dialogs.Show({"Warnung",
+                              "Datenbank " + file + " im ORVA-Verzeichnis nicht gefunden bzw. leer.\n"
+                                  + "Bereits geladene Datenbank " + session.state.databaseFile
+                                  + " wird weiter verwendet.",
+                              MessageIcon::Exclamation});
+    else
+        session.dialogs.Show(
+            {"Ausführung nicht möglich", "Datenbank " + file + " nicht gefunden bzw. leer", MessageIcon::Exclamation});
+}
+
+// A new substance makes loaded data series doubtful; the user decides.
+void AskDeleteBatchData(Session& session) {
+    if (session.state.batchRowCount == 0)
+        return;
+    const bool drop = session.dialogs.Ask({"STAPELDATEN", "Neuer Stoff wurde gewählt.\n"
+                                                          "Geladene exper. Daten (Stapeldaten) jetzt löschen?"});
+    if (!drop)
+        return;
+    ClearBatchFile(session.state);
+    session.state.batchRowCount = 0;
+    session.batch.rows.resize(1);
+}
+
+// A virial equation gives no liquid, so there is no p from the density of one.
+bool RefuseLiquidDensity(Session& session, int kind) {
+    if (kind != kindTRhoLiquid || !session.model.selection.nonCubic)
+        return false;
+    session.dialogs.Show({"Ausführung nicht möglich", "nur möglich mit einer kubischen EOS", MessageIcon::Exclamation});
+    session.calculation.CalcKind = kindNone;
+    return true;
+}
+
+} // namespace
+
+bool OpenDatabase(Session& session, const std::filesystem::path& path) {
+    const DatabaseLoadResult loaded =
+        session.database.LoadDatabase(path, session.machine.InstallationFolder(), session.state.englishText);
+    if (!loaded.Good())
+        return false;
+    SessionState& state = session.state;
+    state.databaseFile = PathText(path);
+    state.databaseLoaded = true;
+    state.substanceCount = static_cast<std::int16_t>(session.List().entries.size());
+    session.Enter(SessionEvent::DatabaseOpened);
+    return true;
+}
+
+bool OpenDatabaseDialog(Session& session) {
+    const SessionState& state = session.state;
+    FileRequest request;
+    request.title = "Datenbank auswählen und laden";
+    request.filter = "Datenbank (*.Q05)|*.Q05";
+    request.folder = PathText(session.machine.InstallationFolder());
+    request.fileName = state.databaseFile.empty() ? masterDatabase : state.databaseFile;
+    request.defaultExtension = "*.Q05";
+    const auto file = session.dialogs.ChooseFile(request);
+    if (!file)
+        return false;
+    if (OpenDatabase(session, PathOf(*file)))
+        return true;
+    ReportLoadFailure(session, *file);
+    return false;
+}
+
+bool AcceptSubstance(Session& session, int listIndex) {
+    session.ResetModelState();
+    AskDeleteBatchData(session);
+    SubstanceData& substance = session.model.substance;
+    const SubstanceLoadResult loaded =
+        LoadSubstanceRecord(session.database, listIndex, session.state.englishText, substance);
+    if (loaded.readError) {
+        session.dialogs.Show(RecordUnreadableMessage(listIndex));
+        return false;
+    }
+    session.state.substanceIndex = static_cast<std::int16_t>(listIndex);
+    if (loaded.criticalDataMissing) {
+        session.dialogs.Show(CriticalDataMissingMessage(substance));
+        return false;
+    }
+    if (session.model.selection.vaporPressure >= firstCorrelatedEquation)
+        CorrelateVapourPressure(substance, session.model.selection.vaporPressure);
+    session.Enter(SessionEvent::SubstanceAccepted);
+    session.statusPanels[0] = substance.name;
+    session.state.projectComment.clear();
+    session.state.rangesStale = true;
+    return true;
+}
+
+void RestoreSubstance(Session& session) {
+    LoadSubstanceRecord(session.database, session.state.substanceIndex, session.state.englishText,
+                        session.model.substance);
+}
+
+void AcceptModels(Session& session) {
+    session.Enter(SessionEvent::ModelsAccepted);
+    session.statusPanels[0] = session.model.substance.name;
+    SetDefaultRanges(session.model, session.options, session.ranges);
+}
+
+CalculationStart DispatchCalculation(Session& session, int kind) {
+    CalculationState& calculation = session.calculation;
+    calculation.CalcKind = static_cast<std::int16_t>(kind == kindNone ? kindTRho : kind);
+    calculation.AssumeEquilibrium = false;
+    if (RefuseLiquidDensity(session, calculation.CalcKind) || !IsKindAvailable(calculation.CalcKind))
+        return {};
+    calculation.CurrentDataSet = 0;
+    calculation.InputContext = calculation.CalcKind + inputContextOffset;
+    return {true, !session.options.batchMode};
+}
+
+void OpenCalculationMenu(Session& session) {
+    if (session.state.batchRowCount == 0 && session.options.batchMode)
+        session.dialogs.Show({"Ausführung nicht möglich",
+                              "Diese Berechnungsart ist nur möglich, wenn Stapeldaten\n"
+                              " (exper. T-p-rho-..-Daten) bereitgestellt sind.\n\n"
+                              "Geben Sie Stapeldaten ein\n"
+                              "(per File oder Neueingabe) => Menü \"Daten/exper. Daten...\"",
+                              MessageIcon::Exclamation});
+    session.Enter(SessionEvent::CalculationMenuOpened);
+}
+
+} // namespace orva

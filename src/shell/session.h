@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "calc/calc_batch.h"
+#include "calc/calculation_state.h"
+#include "shell/command_states.h"
+#include "state/batch_data.h"
+#include "state/diagram_ranges.h"
+#include "state/dialogs.h"
+#include "state/machine.h"
+#include "state/name_tables.h"
+#include "state/options.h"
+#include "state/session_state.h"
+#include "state/substance_model.h"
+#include "substance/database.h"
+
+namespace orva {
+
+// Owner of every record of one running program. The rooms get from it just what they read or write.
+class Session {
+  public:
+    // Start-up: decimal separator, model state, name tables, defaults of the windows, folders, enabling rules.
+    Session(const Machine& machine, Dialogs& dialogs);
+
+    const Machine& machine;
+    Dialogs& dialogs;
+
+    NameTables names;
+    SubstanceModel model;
+    Options options;
+    SessionState state;
+    DiagramRanges ranges;
+    CurveRequest curve;
+    BatchDataSet batch;
+    CalculationState calculation;
+    Database database;
+    CommandStates commands;
+    NumberStyle style;
+
+    // The reset before a new substance is taken, with the menus that it closes.
+    void ResetModelState();
+
+    // Applies the enabling rules of an event.
+    void Enter(SessionEvent event);
+
+    const SubstanceList& List() const { return database.List(); }
+    CalculationContext Calculation();
+
+    // The four panels of the status bar: substance, equation of state, vapour-pressure equation, contact.
+    std::array<std::string, 4> statusPanels;
+};
+
+// The contact line of the status bar and the text of the about box.
+std::string_view ContactText();
+Message AboutMessage();
+
+} // namespace orva

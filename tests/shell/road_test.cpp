@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "shell/road.h"
+#include "shell/status_texts.h"
+#include "substance/substance_loading.h"
+#include "support/sample_database.h"
+#include "support/scripted_dialogs.h"
+#include "support/test_machine.h"
+#include "thermo/eos_constants.h"
+
+namespace orva::test {
+namespace {
+
+struct Road : testing::Test {
+    TestMachine machine;
+    ScriptedDialogs dialogs;
+    Session session{machine, dialogs};
+
+    void OpenSample() {
+        WriteSampleDatabase(machine.InstallationFolder());
+        ASSERT_TRUE(OpenDatabase(session, "ORVA.Q05"));
+    }
+    void AcceptButane() {
+        OpenSample();
+        ASSERT_TRUE(AcceptSubstance(session, 1));
+    }
+};
+
+TEST_F(Road, StartsWithTheDefaultsOfTheSession) {
+    EXPECT_EQ(session.model.selection.eos, eosNotChosen);
+    EXPECT_EQ(session.model.selection.vaporPressureCode, "0");
+    EXPECT_EQ(session.model.reference.kind, 1);
+    EXPECT_EQ(session.model.reference.p0, 0);
+    EXPECT_EQ(session.options.curvePoints, 300);
+    EXPECT_EQ(session.curve.curveT, 298.15);
+    EXPECT_EQ(session.state.dirXY, machine.InstallationFolder().string());
+    EXPECT_EQ(session.state.lastSessionFile, (machine.InstallationFolder() / "OrvaLastSession.QCF").string());
+    EXPECT_EQ(session.statusPanels[0], "");
+    EXPECT_FALSE(session.state.decimalComma);
+}
+
+TEST_F(Road, TakesTheDecimalCommaFromTheMachine) {
+    const TestMachine german(true);
+    const Session other(german, dialogs);
+    EXPECT_TRUE(other.state.decimalComma);
+    EXPECT_EQ(other.style.decimal, ',');
+}
+
+TEST_F(Road, AsksForTheDatabaseStartingWithTheMasterDatabase) {
+    EXPECT_FALSE(OpenDatabaseDialog(session));
+    ASSERT_EQ(dialogs.fileRequests.size(), 1U);
+    const FileRequest& request = dialogs.fileRequests[0];
+    EXPECT_EQ(request.title, "Datenbank auswählen und laden");
+    EXPECT_EQ(request.filter, "Datenbank (*.Q05)|*.Q05");
+    EXPECT_EQ(request.fileName, "ORVA.Q05");
+    EXPECT_EQ(request.folder, machine.InstallationFolder().string());
+    EXPECT_TRUE(dialogs.shown.empty());
+    EXPECT_FALSE(session.state.databaseLoaded);
+}
+
+TEST_F(Road, OpensTheChosenDatabase) {
+    const auto path = WriteSampleDatabase(machine.InstallationFolder());
+    dialogs.files = {path.string()};
+    EXPECT_TRUE(OpenDatabaseDialog(session));
+    EXPECT_EQ(session.state.databaseFile, path.string());
+    EXPECT_EQ(session.state.substanceCount, 3);
+    dialogs.files = {std::nullopt};
+    EXPECT_FALSE(OpenDatabaseDialog(session));
+    EXPECT_EQ(dialogs.fileRequests.back().fileName, path.string());
+}
+
+TEST_F(Road, SaysThatADatabaseIsMissing) {
+    dialogs.files = {"nichts.Q05"};
+    EXPECT_FALSE(OpenDatabaseDialog(session));
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].title, "Ausführung nicht möglich");
+    EXPECT_EQ(dialogs.shown[0].text, "Datenbank nichts.Q05 nicht gefunden bzw. leer");
+}
+
+TEST_F(Road, KeepsTheLoadedDatabaseWhenAnotherOneFails) {
+    OpenSample();
+    WriteFile(machine.InstallationFolder() / "halb.Q05",
+              DatabaseBytes(SampleRecords()).substr(0, 2 * recordSize + 100));
+    for (const char* name : {"nichts.Q05", "halb.Q05"}) {
+        dialogs.files = {name};
+        dialogs.shown.clear();
+        EXPECT_FALSE(OpenDatabaseDialog(session));
+        ASSERT_EQ(dialogs.shown.size(), 1U);
+        EXPECT_EQ(dialogs.shown[0].title, "Warnung");
+        EXPECT_EQ(dialogs.shown[0].text, std::string("Datenbank ") + name
+                                             + " im ORVA-Verzeichnis nicht gefunden bzw. leer.\n"
+                                               "Bereits geladene Datenbank ORVA.Q05 wird weiter verwendet.");
+        EXPECT_EQ(session.List().entries.size(), 3U);
+        EXPECT_TRUE(AcceptSubstance(session, 1));
+        EXPECT_EQ(session.model.substance.name, "n-Butan");
+    }
+}
+
+TEST_F(Road, AcceptingASubstanceLoadsItAndFillsThePanel) {
+    AcceptButane();
+    EXPECT_EQ(session.model.substance.name, "n-Butan");
+    EXPECT_EQ(session.statusPanels[0], "n-Butan");
+    EXPECT_EQ(session.state.substanceIndex, 1);
+    EXPECT_TRUE(session.state.rangesStale);
+    EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(Road, ASubstanceWithoutCriticalDataStaysLoadedWithItsWarning) {
+    OpenSample();
+    EXPECT_FALSE(AcceptSubstance(session, 3));
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].title, "WARNUNG");
+    EXPECT_EQ(dialogs.shown[0].text,
+              "T(cr) und/oder p(cr) in der Datenbank nicht verfügbar.\n\n"
+              "(fehlende kritische Daten können im Stoffdatenbank-Editor manuell eingetragen werden.)\n\n"
+              "Für Stoff ohne kritische Daten sind keine Berechnungen möglich!");
+    EXPECT_EQ(session.model.substance.name, "Stoff ohne kritische Daten");
+}
+
+TEST_F(Road, AsksAboutLoadedSeriesWhenTheSubstanceChanges) {
+    OpenSample();
+    session.state.batchRowCount = 2;
+    session.batch.rows.resize(3);
+    session.state.batchFile = "x.BAQ";
+    dialogs.answers = {false, true};
+    EXPECT_TRUE(AcceptSubstance(session, 1));
+    ASSERT_EQ(dialogs.asked.size(), 1U);
+    EXPECT_EQ(dialogs.asked[0].title, "STAPELDATEN");
+    EXPECT_EQ(dialogs.asked[0].text, "Neuer Stoff wurde gewählt.\nGeladene exper. Daten (Stapeldaten) jetzt löschen?");
+    EXPECT_EQ(session.state.batchRowCount, 2);
+    EXPECT_TRUE(AcceptSubstance(session, 2));
+    EXPECT_EQ(session.state.batchRowCount, 0);
+    EXPECT_EQ(session.state.batchFile, "");
+    EXPECT_EQ(session.batch.rows.size(), 1U);
+}
+
+TEST_F(Road, LookingAtOthersLeavesTheAcceptedSubstance) {
+    AcceptButane();
+    LoadSubstanceRecord(session.database, 2, false, session.model.substance);
+    EXPECT_EQ(session.model.substance.name, "Argon ohne Omega");
+    RestoreSubstance(session);
+    EXPECT_EQ(session.model.substance.name, "n-Butan");
+}
+
+TEST_F(Road, AcceptedModelsBringUnitsAndRangesUpToDate) {
+    AcceptButane();
+    session.model.selection.eos = eosPengRobinson;
+    ASSERT_TRUE(DetermineEosParameters(session.model, eosPengRobinson));
+    session.options.volumeBasis = 1;
+    AcceptModels(session);
+    EXPECT_NEAR(session.options.volumeFactor, 1 / 58.1222, 1e-9);
+    EXPECT_NEAR(session.ranges.TMax, 1.1 * 425.125, 1e-3);
+}
+
+TEST_F(Road, ACalculationOpensResultAndInput) {
+    AcceptButane();
+    const CalculationStart start = DispatchCalculation(session, kindTP);
+    EXPECT_TRUE(start.showResult);
+    EXPECT_TRUE(start.askForPoint);
+    EXPECT_EQ(session.calculation.CalcKind, kindTP);
+    EXPECT_EQ(session.calculation.InputContext, 103);
+}
+
+TEST_F(Road, AVirialEquationRefusesTheDensityOfTheLiquid) {
+    session.model.selection.nonCubic = true;
+    const CalculationStart start = DispatchCalculation(session, kindTRhoLiquid);
+    EXPECT_FALSE(start.showResult);
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].text, "nur möglich mit einer kubischen EOS");
+    EXPECT_EQ(dialogs.shown[0].title, "Ausführung nicht möglich");
+    EXPECT_EQ(session.calculation.CalcKind, kindNone);
+}
+
+TEST_F(Road, TheCalculationMenuHintsAtAMissingSeriesInBatchMode) {
+    session.options.batchMode = true;
+    OpenCalculationMenu(session);
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].title, "Ausführung nicht möglich");
+    EXPECT_EQ(dialogs.shown[0].text, "Diese Berechnungsart ist nur möglich, wenn Stapeldaten\n"
+                                     " (exper. T-p-rho-..-Daten) bereitgestellt sind.\n\n"
+                                     "Geben Sie Stapeldaten ein\n"
+                                     "(per File oder Neueingabe) => Menü \"Daten/exper. Daten...\"");
+}
+
+TEST_F(Road, SaysWhatIsLoaded) {
+    EXPECT_EQ(StatusMessage(session).title, " geladen sind jetzt ... ");
+    EXPECT_EQ(StatusMessage(session).text, "... noch keine Datenbank\n"
+                                           " ... noch kein Stoff\n"
+                                           "... exper. T-p-rho-HLV-cp-Daten: keine\n"
+                                           "\n(weitere geladene Projekt-Parameter s. unter \"Optionen\")");
+    AcceptButane();
+    session.state.batchRowCount = 1;
+    EXPECT_EQ(StatusMessage(session).text, "... Datenbank ORVA.Q05\n    mit 3 Stoff(en)\n\n"
+                                           "... Stoff: C4H10, 106-97-8, n-Butan (#1)\n"
+                                           "... exper. T-p-rho-HLV-cp-Daten: 1 Datensatz verfügbar,\n"
+                                           "noch nicht gespeichert.\n"
+                                           "\n(weitere geladene Projekt-Parameter s. unter \"Optionen\")");
+}
+
+TEST_F(Road, ShowsTheConstantsOfTheEquation) {
+    EXPECT_EQ(EosParametersMessage(session).text, "Idealgasgleichung eingestellt");
+    AcceptButane();
+    session.model.selection.eos = virialPitzerCurl;
+    EXPECT_EQ(EosParametersMessage(session).text,
+              "Parameter der PITZER/CURL-Gleichung\n\nsiehe Hilfe im Fenster \"Berechnungsmodelle\"");
+    session.model.selection.eos = eosVanDerWaals;
+    ASSERT_TRUE(DetermineEosParameters(session.model, eosVanDerWaals));
+    // a = 27/64 R^2 Tc^2/pc = 1388.5585, b = R Tc/(8 pc) = 0.1163957, vc = 3/8 R Tc/pc = 0.3491873
+    EXPECT_EQ(EosParametersMessage(session).title, " Parameter der generalisierten Zustandsgleichung ");
+    EXPECT_EQ(EosParametersMessage(session).text, "Parameter CEOS van der Waals\nfür n-Butan\n"
+                                                  "\na0 = 1388.559\na1 = 0\nb0 = 0.1163957\nb1 = 0"
+                                                  "\nc0 = 0\nc1 = 0\nd0 = 0\nd1 = 0"
+                                                  "\n\nkrit. Volumen aus T(cr) und p(cr) berechnet:"
+                                                  "\n         v(cr)/m^3/kmol = 0.3491873"
+                                                  "\n(entspr. rho(cr)/kg/m^3 = 166.45)");
+}
+
+} // namespace
+} // namespace orva::test
