@@ -197,7 +197,7 @@ std::span<const ToolbarRow> ToolbarTable() { return toolbarTable; }
 std::string CommandKey(std::string_view name, int index) {
     std::string key(name);
     if (index != noIndex)
-        key += "(" + std::to_string(index) + ")";
+        key.append("(").append(std::to_string(index)).append(")");
     return key;
 }
 

@@ -2,7 +2,7 @@
 #include "shell/road.h"
 
 #include "diagrams/default_ranges.h"
-#include "state/resets.h"
+#include "substance/substance_choice.h"
 #include "substance/substance_loading.h"
 #include "text/columns.h"
 #include "thermo/vapour_pressure.h"
@@ -31,19 +31,6 @@ void ReportLoadFailure(Session& session, const std::string& file) {
     else
         session.dialogs.Show(
             {"Ausführung nicht möglich", "Datenbank " + file + " nicht gefunden bzw. leer", MessageIcon::Exclamation});
-}
-
-// A new substance makes loaded data series doubtful; the user decides.
-void AskDeleteBatchData(Session& session) {
-    if (session.state.batchRowCount == 0)
-        return;
-    const bool drop = session.dialogs.Ask({"STAPELDATEN", "Neuer Stoff wurde gewählt.\n"
-                                                          "Geladene exper. Daten (Stapeldaten) jetzt löschen?"});
-    if (!drop)
-        return;
-    ClearBatchFile(session.state);
-    session.state.batchRowCount = 0;
-    session.batch.rows.resize(1);
 }
 
 // A virial equation gives no liquid, so there is no p from the density of one.
@@ -89,7 +76,8 @@ bool OpenDatabaseDialog(Session& session) {
 
 bool AcceptSubstance(Session& session, int listIndex) {
     session.ResetModelState();
-    AskDeleteBatchData(session);
+    if (AskDeleteBatchData(session.state, session.dialogs))
+        session.batch.rows.resize(1);
     SubstanceData& substance = session.model.substance;
     const SubstanceLoadResult loaded =
         LoadSubstanceRecord(session.database, listIndex, session.state.englishText, substance);
@@ -116,9 +104,11 @@ void RestoreSubstance(Session& session) {
                         session.model.substance);
 }
 
-void AcceptModels(Session& session) {
+void AcceptModels(Session& session, const StatusPanels& panels) {
     session.Enter(SessionEvent::ModelsAccepted);
-    session.statusPanels[0] = session.model.substance.name;
+    session.statusPanels[0] = panels.substance;
+    session.statusPanels[1] = panels.eos;
+    session.statusPanels[2] = panels.vaporPressure;
     SetDefaultRanges(session.model, session.options, session.ranges);
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "shell/session.h"
+#include "substance/model_choice.h"
 
 namespace orva {
 
@@ -25,8 +26,9 @@ bool AcceptSubstance(Session& session, int listIndex);
 // Loads the record of the accepted substance again, after a look at others.
 void RestoreSubstance(Session& session);
 
-// What follows when the models were accepted and their constants stand: commands, status panels, units and ranges.
-void AcceptModels(Session& session);
+// What follows when the model window accepted its choice and the constants stand: commands, status panels, units and
+// ranges.
+void AcceptModels(Session& session, const StatusPanels& panels);
 
 // The windows that a calculation opens.
 struct CalculationStart {

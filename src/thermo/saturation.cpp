@@ -186,6 +186,7 @@ SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstar
         const CubicSolution cubic = SolveEosCubic(model, s.value, p);
         if (!(model.work.Roots[0] > model.eos.B) || cubic.rootCount == 0)
             return Failure(result);
+        result.failed = false; // of the areas of the pass before
         if (cubic.rootCount == 1) {
             if (++s.singlePasses > temperaturePasses)
                 return Failure(result);
@@ -204,7 +205,7 @@ SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstar
         s.Advance();
         if (SameSingle(s.value, Tc)) {
             result.value = s.value;
-            return result;
+            return result.failed ? Failure(result) : result;
         }
         if (s.value < smallestIterate)
             s.RestartNearZero();
@@ -265,6 +266,7 @@ SaturationResult EosSaturationPressure(SubstanceModel& model, double T) {
         const CubicSolution cubic = SolveEosCubic(model, T, s.value);
         if (!(model.work.Roots[0] > model.eos.B) || cubic.rootCount == 0)
             return Failure(result);
+        result.failed = false; // of the areas of the pass before
         if (cubic.rootCount == 1) {
             SteerPressure(s, model.work.Roots[0], model.eos.vCritCalc);
         } else {
@@ -281,7 +283,7 @@ SaturationResult EosSaturationPressure(SubstanceModel& model, double T) {
         s.Advance();
         if (SameSingle(s.value, pc)) {
             result.value = s.value;
-            return result;
+            return result.failed ? Failure(result) : result;
         }
         if (s.value < smallestIterate)
             s.RestartNearZero();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "thermo/vapour_pressure.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "state/constants.h"
+#include "thermo/rounding.h"
 #include "thermo/vapour_pressure_forms.h"
 
 namespace orva {
@@ -13,33 +13,20 @@ namespace {
 
 constexpr double lowestTemperature = 1e-6; // K
 constexpr double lowestPressure = 1e-35;   // kPa: a smaller result counts as none
-constexpr double givenLimit = 1e-6;
 constexpr double temperatureTolerance = 1e-4; // relative
 constexpr double flatSlope = 1e-35;
 constexpr int newtonSteps = 1000; // a generous end for the open iterations
 
 const VapourPressureResult noSolution{0, true, 0};
 
-// Half to even, within 16 bits.
-int RoundedKelvins(double distance) {
-    return static_cast<int>(std::nearbyint(std::clamp(distance, -32768.0, 32767.0)));
-}
-
-// Distance from the range of validity; the upper limit overrides.
-int Deviation(double T, int Tlo, int Thi) {
-    double distance = 0;
-    if (T < Tlo)
-        distance = T - Tlo;
-    if (T > Thi)
-        distance = T - Thi;
-    return RoundedKelvins(distance);
-}
-
 // The August equation has no upper limit, and Tb is its lower one.
 int AugustDeviation(double T, double Tb) { return T < Tb ? RoundedKelvins(T - Tb) : 0; }
 
-int DeviationIfGiven(double T, int Tlo, int Thi) {
-    return Tlo > givenLimit && Thi > givenLimit ? Deviation(T, Tlo, Thi) : 0;
+// A block without any coefficient would pass as p = 1 kPa; it is a missing one and fails.
+bool IsMissing(const AntoineBlock& block) { return block.A == 0 && block.B == 0; }
+bool IsMissing(const AugustBlock& block) { return block.A == 0 && block.B == 0; }
+bool IsMissing(const FrostKalkwarfBlock& block) {
+    return block.c1 == 0 && block.c2 == 0 && block.c4 == 0 && block.c5 == 0 && block.c7 == 0 && block.c8 == 0;
 }
 
 VapourPressureResult Checked(double value, int deviation, double lowest) {
@@ -49,18 +36,22 @@ VapourPressureResult Checked(double value, int deviation, double lowest) {
 }
 
 VapourPressureResult AntoinePressure(const AntoineBlock& block, double T, bool ranged) {
-    const int deviation = ranged ? Deviation(T, block.Tlo, block.Thi) : 0;
+    const int deviation = ranged ? RangeDeviation(T, block.Tlo, block.Thi) : 0;
+    if (IsMissing(block))
+        return {0, true, deviation};
     const double lgP = block.A - block.B / (block.C + T - 273.15);
     return Checked(std::exp(ln10 * lgP), deviation, lowestPressure);
 }
 
 VapourPressureResult AugustPressure(const SubstanceData& substance, double T) {
+    if (IsMissing(substance.august))
+        return {0, true, AugustDeviation(T, substance.Tb)};
     const double p = std::exp(substance.august.A + substance.august.B / T);
     return Checked(p, AugustDeviation(T, substance.Tb), lowestPressure);
 }
 
 VapourPressureResult WagnerPressure(const WagnerBlock& block, double T) {
-    const int deviation = DeviationIfGiven(T, block.Tlo, block.Thi);
+    const int deviation = RangeDeviationIfGiven(T, block.Tlo, block.Thi);
     const WagnerForm wagner(block);
     const double tau = wagner.Tau(T);
     if (!(tau >= wagnerSmallestTau))
@@ -72,7 +63,9 @@ VapourPressureResult WagnerPressure(const WagnerBlock& block, double T) {
 }
 
 VapourPressureResult FrostKalkwarfPressure(const FrostKalkwarfBlock& block, double T, bool stored) {
-    const int deviation = stored ? DeviationIfGiven(T, block.Tlo, block.Thi) : 0;
+    const int deviation = stored ? RangeDeviationIfGiven(T, block.Tlo, block.Thi) : 0;
+    if (IsMissing(block))
+        return {0, true, deviation};
     const FrostKalkwarfForm form(block, stored);
     const double Q = form.Explicit(T);
     if (std::abs(form.E) < frostKalkwarfExplicit)
@@ -94,9 +87,9 @@ VapourPressureResult FrostKalkwarfPressure(const FrostKalkwarfBlock& block, doub
 
 VapourPressureResult AntoineTemperature(const AntoineBlock& block, double p, bool ranged) {
     const double T = block.B / (block.A - std::log(p) / ln10) - block.C + 273.15;
-    if (!std::isfinite(T))
+    if (!std::isfinite(T) || IsMissing(block))
         return noSolution;
-    return Checked(T, ranged ? Deviation(T, block.Tlo, block.Thi) : 0, lowestTemperature);
+    return Checked(T, ranged ? RangeDeviation(T, block.Tlo, block.Thi) : 0, lowestTemperature);
 }
 
 double AugustSlope(const SubstanceData& s) {
@@ -134,12 +127,14 @@ VapourPressureResult WagnerTemperature(const SubstanceData& substance, double p)
         const double dT = -((wagner.Tref / T) * S - lnRatio) / slope;
         T += dT;
         if (std::abs(dT / T) < temperatureTolerance)
-            return Checked(T, DeviationIfGiven(T, substance.wagner.Tlo, substance.wagner.Thi), lowestTemperature);
+            return Checked(T, RangeDeviationIfGiven(T, substance.wagner.Tlo, substance.wagner.Thi), lowestTemperature);
     }
     return noSolution;
 }
 
 VapourPressureResult FrostKalkwarfTemperature(const FrostKalkwarfBlock& block, double p, bool stored) {
+    if (IsMissing(block))
+        return noSolution;
     const FrostKalkwarfForm form(block, stored);
     const double lgP = std::log(p) / ln10;
     double T = form.B / (lgP - form.A) - form.C;
@@ -151,7 +146,7 @@ VapourPressureResult FrostKalkwarfTemperature(const FrostKalkwarfBlock& block, d
         const double dT = -value / slope;
         T += dT;
         if (std::abs(dT / T) < temperatureTolerance)
-            return Checked(T, stored ? DeviationIfGiven(T, block.Tlo, block.Thi) : 0, lowestTemperature);
+            return Checked(T, stored ? RangeDeviationIfGiven(T, block.Tlo, block.Thi) : 0, lowestTemperature);
     }
     return noSolution;
 }

@@ -145,10 +145,15 @@ TEST_F(Road, LookingAtOthersLeavesTheAcceptedSubstance) {
 
 TEST_F(Road, AcceptedModelsBringUnitsAndRangesUpToDate) {
     AcceptButane();
-    session.model.selection.eos = eosPengRobinson;
-    ASSERT_TRUE(DetermineEosParameters(session.model, eosPengRobinson));
+    ModelChoice choice(session.model, session.names);
+    choice.Open();
+    ASSERT_TRUE(choice.OKModell(dialogs));
     session.options.volumeBasis = 1;
-    AcceptModels(session);
+    AcceptModels(session, choice.Panels());
+    EXPECT_EQ(session.statusPanels[0], "n-Butan");
+    EXPECT_EQ(session.statusPanels[1].substr(0, 19), "CEOS Peng / Robinso");
+    EXPECT_EQ(session.statusPanels[2], "Dampfdruck-Gleichung: Wagner");
+    EXPECT_TRUE(session.commands.Enabled(FindCommand("mnuCalc", 2)));
     EXPECT_NEAR(session.options.volumeFactor, 1 / 58.1222, 1e-9);
     EXPECT_NEAR(session.ranges.TMax, 1.1 * 425.125, 1e-3);
 }

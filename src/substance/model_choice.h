@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "state/dialogs.h"
+#include "state/name_tables.h"
+#include "state/substance_model.h"
+
+namespace orva {
+
+struct ChoiceRow {
+    std::string text;
+    int number = 0; // row number of the model, see ModelSelection
+};
+
+struct ChoiceList {
+    std::vector<ChoiceRow> rows;
+    int selected = -1; // -1 none
+
+    // Row of a model number, -1 if it is not listed.
+    int RowOf(int number) const;
+    bool Has(int row) const { return row >= 0 && static_cast<std::size_t>(row) < rows.size(); }
+};
+
+// Texts of the first three status panels.
+struct StatusPanels {
+    std::string substance, eos, vaporPressure;
+};
+
+// The window frmQModell: which models the data of the substance allow, and the choice among them. Each choice
+// is written into the model selection at once; cmdEsc brings the old one back.
+class ModelChoice {
+public:
+    // `offerVoHalme` lists the two Vo / Halme rows.
+    ModelChoice(SubstanceModel& substanceModel, NameTables& nameTables, bool offerVoHalme = false);
+
+    std::string title;
+    std::string Rx1, Rx2; // liquid density
+    ChoiceList EOSKombi, pKombi, HLVKombi, WatsonKombi, cpKombi;
+    std::string watsonText;     // text in WatsonKombi
+    bool watsonVisible = false; // WatsonKombi with its label Bz1
+    int PriorOpt = 0;           // 0 equation of state, 1 vapour-pressure equation
+    bool priorityEnabled = true;
+    bool loading = false;
+
+    void Open();
+
+    // Row choices; a row that is not there changes nothing. SelectEos returns true when the hand input of
+    // virial constants is to be opened.
+    bool SelectEos(int row);
+    void SelectVaporPressure(int row);
+    void SelectVaporization(int row);
+    void SelectWatsonExponent(int row);
+    void TypeWatsonExponent(std::string_view text);
+    void SelectCpModel(int row);
+    void ChoosePriority(int button);
+
+    // The box that comes first on acceptance when a chosen model needs an acentric factor that is not there.
+    std::optional<Message> OmegaWarning() const;
+    // Correlates the vapour-pressure equation if it is a correlated one, and determines the constants of the
+    // equation of state. False if that failed: the window then stays open.
+    bool DetermineParameters();
+    // Both of them in their order.
+    bool OKModell(Dialogs& dialogs);
+    void cmdEsc();
+
+    StatusPanels Panels() const;
+
+private:
+    void ShowLiquidDensity();
+    void FillVaporPressure();
+    void ListVaporPressure(int index);
+    void PresetVaporPressure();
+    void FillEos();
+    void FillVaporization();
+    void FillWatson();
+    void FillCpModel();
+    void CorrectCpModel();
+    void SetPriority(bool eosFirst);
+    void TakeNonCubic();
+    void TakeCubic();
+
+    SubstanceModel& model;
+    NameTables& names;
+    bool voHalmeOffered;
+    ModelSelection before; // as it was on opening
+};
+
+} // namespace orva
