@@ -36,11 +36,12 @@ void PrepareRun(CalculationContext& context) {
     state.rootIndex = 0;
     state.zV = state.zL = 0;
     state.pEos = 0;
-    context.options.energyFactor =
-        EnergyFactor(context.options.unitBasis, context.calculation.diagramTemperature, context.model.substance);
+    context.options.energyFactor = EnergyFactor(
+        context.options.unitBasis, context.calculation.diagramTemperature, context.model.substance);
 }
 
-// The words on a given state beyond the critical point. A state on a border keeps what the equation of state said.
+// The words on a given state beyond the critical point. A state on a border keeps what the equation of state
+// said.
 void JudgeGivenState(PointRun& run) {
     PointResult& result = run.result;
     SubstanceModel& model = run.context.model;
@@ -122,7 +123,9 @@ void CommonEnd(PointRun& run) {
 
 } // namespace
 
-bool IsKindAvailable(int kind) { return FindKind(kind) != nullptr; }
+bool IsKindAvailable(int kind) {
+    return FindKind(kind) != nullptr;
+}
 
 PointResult CalcBatch(CalculationContext& context, int kind, int dataSet, RunOptions options) {
     PointResult result;

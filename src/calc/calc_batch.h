@@ -27,8 +27,8 @@ struct RunOptions {
     bool warn = true;            // allow the hint on the triple point
 };
 
-// One calculation of kind `kind` for row `dataSet` of the data series, 0 for the direct input. The same input gives
-// the same result. Fails with a text in the report, never otherwise.
+// One calculation of kind `kind` for row `dataSet` of the data series, 0 for the direct input. The same input
+// gives the same result. Fails with a text in the report, never otherwise.
 PointResult CalcBatch(CalculationContext& context, int kind, int dataSet, RunOptions run = {});
 
 // True for the kinds that are built.

@@ -57,7 +57,8 @@ struct EosStateRecord {
 // The calculation in force and how it treats equilibrium.
 struct CalculationState {
     std::int16_t CalcKind = kindNone;
-    bool GlobalMethod = true; // both phases from the cubic equation; false: vapour pressure and liquid correlation
+    bool GlobalMethod =
+        true; // both phases from the cubic equation; false: vapour pressure and liquid correlation
     bool BensonLiquid = false;
     ReferenceDensityPoint referenceDensity;
     bool ReferenceDensityPointValid = false;

@@ -35,7 +35,8 @@ bool TakeTemperature(PointRun& run, ResultLabel& label) {
     const SubstanceModel& model = run.context.model;
     if (static_cast<float>(T) < model.substance.Ttrip && run.options.warn && !model.selection.nonCubic
         && WarnsAtTriplePoint(run.result.kind))
-        run.result.messages.push_back({"Hinweis", "T ist kleiner als Tripelpunkt-Temperatur", MessageIcon::Information});
+        run.result.messages.push_back(
+            {"Hinweis", "T ist kleiner als Tripelpunkt-Temperatur", MessageIcon::Information});
     run.T = T;
     run.result.results[slotT] = T;
     return true;
@@ -56,6 +57,8 @@ void ReportFailure(PointRun& run, std::string_view message) {
     AppendLine(run, Spaces(25) + "Meldung von Sub CalcBatch:" + std::string(message));
 }
 
-std::string FailureNumber() { return " (E" + std::to_string(modelFailure) + ")"; }
+std::string FailureNumber() {
+    return " (E" + std::to_string(modelFailure) + ")";
+}
 
 } // namespace orva

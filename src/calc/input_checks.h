@@ -5,7 +5,8 @@
 
 namespace orva {
 
-// The given values of the data row. A value that is missing turns its label red, fails the run and returns false.
+// The given values of the data row. A value that is missing turns its label red, fails the run and returns
+// false.
 bool TakeTemperature(PointRun& run, ResultLabel& label);
 bool TakePressure(PointRun& run, ResultLabel& label);
 

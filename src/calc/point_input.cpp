@@ -37,11 +37,14 @@ KindLines LinesOf(int kind) {
     return {kind, true, false, false, false};
 }
 
-std::string ShownNumber(double x) { return x > missingValue ? General(x) : std::string(); }
+std::string ShownNumber(double x) {
+    return x > missingValue ? General(x) : std::string();
+}
 
 } // namespace
 
-PointInput::PointInput(int calcKind, const SubstanceData& data, const Options& displayOptions, BatchDataSet& batchData)
+PointInput::PointInput(int calcKind, const SubstanceData& data, const Options& displayOptions,
+                       BatchDataSet& batchData)
     : kind(calcKind), substance(data), options(displayOptions), batch(batchData) {
     const KindLines shown = LinesOf(kind);
     const BatchRow& row = batch.rows.front();
@@ -52,9 +55,13 @@ PointInput::PointInput(int calcKind, const SubstanceData& data, const Options& d
     LabelDensityLine();
 }
 
-std::string PointInput::Title() const { return "Eingabe Direktberechnung"; }
+std::string PointInput::Title() const {
+    return "Eingabe Direktberechnung";
+}
 
-bool PointInput::TakesDensity() const { return lines[2].visible; }
+bool PointInput::TakesDensity() const {
+    return lines[2].visible;
+}
 
 void PointInput::SetVolumeInput(bool volume) {
     if (volume == volumeInput)
@@ -103,6 +110,8 @@ std::optional<Message> PointInput::Accept() {
     return std::nullopt;
 }
 
-Message InvalidInputMessage() { return {"Ausführung nicht möglich", "keine gültige Eingabe", MessageIcon::Exclamation}; }
+Message InvalidInputMessage() {
+    return {"Ausführung nicht möglich", "keine gültige Eingabe", MessageIcon::Exclamation};
+}
 
 } // namespace orva

@@ -23,7 +23,7 @@ struct InputLine {
 
 // State and rules of `frmParinput`, which takes the numbers of one point.
 class PointInput {
-  public:
+public:
     // `kind` says which lines are asked for: T and p, T and density, p and density, or one of them.
     PointInput(int kind, const SubstanceData& substance, const Options& options, BatchDataSet& batch);
 
@@ -37,10 +37,11 @@ class PointInput {
     void SetVolumeInput(bool volume);
     bool VolumeInput() const { return volumeInput; }
 
-    // Writes the numbers to row 0, the direct input. Without any number the box is returned and nothing is changed.
+    // Writes the numbers to row 0, the direct input. Without any number the box is returned and nothing is
+    // changed.
     std::optional<Message> Accept();
 
-  private:
+private:
     void LabelDensityLine();
 
     int kind;

@@ -5,8 +5,8 @@
 
 namespace orva {
 
-// The calculation kinds, one function a family. Each takes its input from the data row, calls the property models
-// and writes its part of the report; what all kinds share stands in CalcBatch.
+// The calculation kinds, one function a family. Each takes its input from the data row, calls the property
+// models and writes its part of the report; what all kinds share stands in CalcBatch.
 
 // Given T and p: density and phase.
 void CalculateFromTP(PointRun& run);

@@ -51,7 +51,8 @@ struct PointResult {
     std::string note;
     bool hasL = false, hasV = false;
     int rootIndex = 0;
-    int phaseVerdict = 0; // 0 subcritical, 1 liquid above p(cr), 2 above both, 3 above T(cr), 4 critical point
+    int phaseVerdict =
+        0; // 0 subcritical, 1 liquid above p(cr), 2 above both, 3 above T(cr), 4 critical point
     float liquidPercent = 0;
     double p = 0, T = 0;
     std::array<double, resultCount> results{};

@@ -25,15 +25,16 @@ bool HasCubicTrailer(const PointRun& run) {
     const ModelSelection& selection = run.context.model.selection;
     const int kind = run.result.kind;
     const bool listed = (kind >= kindTRho && kind <= kindPRho && kind != kindPolytrope) || kind >= 25;
-    const bool fromEos = (kind != kindVaporisationAtT && kind != kindVaporisationAtP) || selection.vaporization == 7;
+    const bool fromEos =
+        (kind != kindVaporisationAtT && kind != kindVaporisationAtP) || selection.vaporization == 7;
     return !selection.nonCubic && run.T > missingValue && listed && fromEos;
 }
 
 void AppendCubicParameters(PointRun& run) {
     const EosParameters& eos = run.context.model.eos;
     const auto row = static_cast<std::size_t>(run.context.model.selection.eos);
-    const std::string title =
-        "Parameter der generalisierten kub. EOS (" + std::string(Trim(run.context.names.EosNames.at(row))) + "):";
+    const std::string title = "Parameter der generalisierten kub. EOS ("
+                              + std::string(Trim(run.context.names.EosNames.at(row))) + "):";
     AppendLine(run, "");
     AppendLine(run, title);
     AppendLine(run, Line("=", CharacterCount(title)));
@@ -70,9 +71,10 @@ void AppendDensityTable(PointRun& run) {
     run.result.results[slotVolumeL] = displayedL;
     if (run.options.suppressReport)
         return;
-    AppendLine(run, FixedField("Dichte", labelWidth) + "rho/ (kg/m^3)  = " + ValueFields(run, phases.rhoL, phases.rhoV));
-    AppendLine(run, FixedField("Volumen", labelWidth) + "v/ (" + options.vUnit + ")  = "
-                        + ValueFields(run, displayedL, displayedV));
+    AppendLine(run, FixedField("Dichte", labelWidth)
+                        + "rho/ (kg/m^3)  = " + ValueFields(run, phases.rhoL, phases.rhoV));
+    AppendLine(run, FixedField("Volumen", labelWidth) + "v/ (" + options.vUnit
+                        + ")  = " + ValueFields(run, displayedL, displayedV));
 }
 
 void AppendParameterTrailer(PointRun& run) {

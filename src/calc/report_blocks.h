@@ -20,7 +20,8 @@ struct PointRun {
 // Adds one line to the report, unless the report is suppressed.
 void AppendLine(PointRun& run, std::string_view line);
 
-// Density and volume of both phases, two rows; the displayed volumes go to their result slots whatever the phases.
+// Density and volume of both phases, two rows; the displayed volumes go to their result slots whatever the
+// phases.
 void AppendDensityTable(PointRun& run);
 
 // The constants of the cubic equation at T, or the second virial coefficient.

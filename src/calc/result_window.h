@@ -9,7 +9,7 @@ namespace orva {
 
 // State and rules of `frmCalcOut`, the window in which every point calculation appears.
 class ResultWindow {
-  public:
+public:
     ResultWindow(CalculationContext context, const SubstanceData& substance);
 
     // "Ergebnis der Berechnung  T, p => rho" and the like.
@@ -23,7 +23,7 @@ class ResultWindow {
     const PointResult& Calculate();
     const PointResult& Result() const { return result; }
 
-  private:
+private:
     CalculationContext context;
     const SubstanceData& substance;
     PointResult result;

@@ -11,7 +11,9 @@ namespace orva {
 
 namespace {
 
-std::filesystem::path PathOf(const QString& text) { return std::filesystem::path(text.toStdU16String()); }
+std::filesystem::path PathOf(const QString& text) {
+    return std::filesystem::path(text.toStdU16String());
+}
 
 } // namespace
 
@@ -28,6 +30,8 @@ std::filesystem::path QtMachine::WritableFolder() const {
     return PathOf(own);
 }
 
-bool QtMachine::DecimalComma() const { return QLocale::system().toString(0.75).contains(QLatin1Char(',')); }
+bool QtMachine::DecimalComma() const {
+    return QLocale::system().toString(0.75).contains(QLatin1Char(','));
+}
 
 } // namespace orva

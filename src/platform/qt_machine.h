@@ -7,7 +7,7 @@ namespace orva {
 
 // The machine as Qt sees it. Needs a running application object.
 class QtMachine : public Machine {
-  public:
+public:
     std::filesystem::path InstallationFolder() const override;
     std::filesystem::path WritableFolder() const override;
     bool DecimalComma() const override;

@@ -11,22 +11,41 @@ namespace {
 
 using Condition = bool (*)(const PhaseFacts&);
 
-bool Given(double x) { return std::abs(x) > missingValue; }
+bool Given(double x) {
+    return std::abs(x) > missingValue;
+}
 
-bool Always(const PhaseFacts&) { return true; }
-bool Never(const PhaseFacts&) { return false; }
-bool IsCubic(const PhaseFacts& f) { return !f.selection.nonCubic; }
-bool HasCriticalData(const PhaseFacts& f) { return f.substance.Tc > missingValue && f.substance.pc > missingValue; }
-bool HasLiquidDensity(const PhaseFacts& f) { return Given(f.substance.rhoLiquid.r1) || Given(f.substance.rhoLiquid.r2); }
-bool HasSolidDensity(const PhaseFacts& f) { return Given(f.substance.rhoSolid.s1) || Given(f.substance.rhoSolid.s2); }
-bool HasVaporisation(const PhaseFacts& f) { return f.substance.hVapFunction.Tlo > missingValue; }
+bool Always(const PhaseFacts&) {
+    return true;
+}
+bool Never(const PhaseFacts&) {
+    return false;
+}
+bool IsCubic(const PhaseFacts& f) {
+    return !f.selection.nonCubic;
+}
+bool HasCriticalData(const PhaseFacts& f) {
+    return f.substance.Tc > missingValue && f.substance.pc > missingValue;
+}
+bool HasLiquidDensity(const PhaseFacts& f) {
+    return Given(f.substance.rhoLiquid.r1) || Given(f.substance.rhoLiquid.r2);
+}
+bool HasSolidDensity(const PhaseFacts& f) {
+    return Given(f.substance.rhoSolid.s1) || Given(f.substance.rhoSolid.s2);
+}
+bool HasVaporisation(const PhaseFacts& f) {
+    return f.substance.hVapFunction.Tlo > missingValue;
+}
 bool HasIdealGasCp(const PhaseFacts& f) {
     return f.substance.cpPolynomial.Tlo > missingValue || f.substance.cpSinhCosh.Tlo > missingValue;
 }
-bool HasLiquidCp(const PhaseFacts& f) { return f.substance.cpLiquid.Tlo > missingValue; }
-bool HasSolidCp(const PhaseFacts& f) { return f.substance.cpSolid.Tlo > missingValue; }
-template<auto block>
-bool HasRange(const PhaseFacts& f) {
+bool HasLiquidCp(const PhaseFacts& f) {
+    return f.substance.cpLiquid.Tlo > missingValue;
+}
+bool HasSolidCp(const PhaseFacts& f) {
+    return f.substance.cpSolid.Tlo > missingValue;
+}
+template<auto block> bool HasRange(const PhaseFacts& f) {
     return (f.substance.*block).Tlo > missingValue && (f.substance.*block).Thi > missingValue;
 }
 

@@ -34,10 +34,10 @@ struct PhaseFacts {
     int batchRowCount = 0;
 };
 
-// Which commands and toolbar buttons are enabled, shown, and under which text, as the session goes on. A command
-// that has no action yet stays disabled whatever the rules say.
+// Which commands and toolbar buttons are enabled, shown, and under which text, as the session goes on. A
+// command that has no action yet stays disabled whatever the rules say.
 class CommandStates {
-  public:
+public:
     CommandStates();
 
     // Applies every rule of the event, in the order of the rule table.
@@ -52,7 +52,7 @@ class CommandStates {
     bool ToolbarAllowed(int buttonIndex) const;
     bool ToolbarEnabled(int buttonIndex) const;
 
-  private:
+private:
     struct State {
         bool enabled = true;
         bool visible = true;

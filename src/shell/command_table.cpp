@@ -190,9 +190,13 @@ constexpr ToolbarRow toolbarTable[] = {
 
 } // namespace
 
-std::span<const CommandRow> CommandTable() { return commandTable; }
+std::span<const CommandRow> CommandTable() {
+    return commandTable;
+}
 
-std::span<const ToolbarRow> ToolbarTable() { return toolbarTable; }
+std::span<const ToolbarRow> ToolbarTable() {
+    return toolbarTable;
+}
 
 std::string CommandKey(std::string_view name, int index) {
     std::string key(name);
@@ -202,9 +206,10 @@ std::string CommandKey(std::string_view name, int index) {
 }
 
 int FindCommand(std::string_view name, int index) {
-    const auto row = std::find_if(std::begin(commandTable), std::end(commandTable), [&](const CommandRow& candidate) {
-        return candidate.name == name && candidate.index == index;
-    });
+    const auto row =
+        std::find_if(std::begin(commandTable), std::end(commandTable), [&](const CommandRow& candidate) {
+            return candidate.name == name && candidate.index == index;
+        });
     return row == std::end(commandTable) ? -1 : static_cast<int>(row - std::begin(commandTable));
 }
 

@@ -8,8 +8,8 @@
 
 namespace orva {
 
-// What choosing a command starts. A command without an action is there, in its place and disabled, until the work
-// behind it is built.
+// What choosing a command starts. A command without an action is there, in its place and disabled, until the
+// work behind it is built.
 enum class CommandAction : std::uint8_t {
     None,
     OpenDatabase,

@@ -19,7 +19,9 @@ std::string PathText(const std::filesystem::path& path) {
     return {text.begin(), text.end()};
 }
 
-std::filesystem::path PathOf(std::string_view text) { return {std::u8string(text.begin(), text.end())}; }
+std::filesystem::path PathOf(std::string_view text) {
+    return {std::u8string(text.begin(), text.end())};
+}
 
 void ReportLoadFailure(Session& session, const std::string& file) {
     if (session.state.databaseLoaded)
@@ -29,15 +31,16 @@ void ReportLoadFailure(Session& session, const std::string& file) {
                                   + " wird weiter verwendet.",
                               MessageIcon::Exclamation});
     else
-        session.dialogs.Show(
-            {"Ausführung nicht möglich", "Datenbank " + file + " nicht gefunden bzw. leer", MessageIcon::Exclamation});
+        session.dialogs.Show({"Ausführung nicht möglich", "Datenbank " + file + " nicht gefunden bzw. leer",
+                              MessageIcon::Exclamation});
 }
 
 // A virial equation gives no liquid, so there is no p from the density of one.
 bool RefuseLiquidDensity(Session& session, int kind) {
     if (kind != kindTRhoLiquid || !session.model.selection.nonCubic)
         return false;
-    session.dialogs.Show({"Ausführung nicht möglich", "nur möglich mit einer kubischen EOS", MessageIcon::Exclamation});
+    session.dialogs.Show(
+        {"Ausführung nicht möglich", "nur möglich mit einer kubischen EOS", MessageIcon::Exclamation});
     session.calculation.CalcKind = kindNone;
     return true;
 }

@@ -11,23 +11,23 @@ namespace orva {
 
 // The road that all work follows: database, substance, models, then calculations and diagrams.
 
-// `mnuData_OpenBank`: asks for the file, loads it and words the failure. True if a database was opened and the
-// choice of a substance comes next.
+// `mnuData_OpenBank`: asks for the file, loads it and words the failure. True if a database was opened and
+// the choice of a substance comes next.
 bool OpenDatabaseDialog(Session& session);
 
 // Loads a database file, the same without the dialog. The database that was open stays when this fails.
 bool OpenDatabase(Session& session, const std::filesystem::path& path);
 
-// Accepts list index `listIndex`: resets the model state, asks about loaded data series, loads the record, opens
-// the next commands. True if the choice of models comes next; false for a substance without critical data, which
-// stays loaded for the editor.
+// Accepts list index `listIndex`: resets the model state, asks about loaded data series, loads the record,
+// opens the next commands. True if the choice of models comes next; false for a substance without critical
+// data, which stays loaded for the editor.
 bool AcceptSubstance(Session& session, int listIndex);
 
 // Loads the record of the accepted substance again, after a look at others.
 void RestoreSubstance(Session& session);
 
-// What follows when the model window accepted its choice and the constants stand: commands, status panels, units and
-// ranges.
+// What follows when the model window accepted its choice and the constants stand: commands, status panels,
+// units and ranges.
 void AcceptModels(Session& session, const StatusPanels& panels);
 
 // The windows that a calculation opens.
@@ -36,8 +36,8 @@ struct CalculationStart {
     bool askForPoint = false;
 };
 
-// A command of the calculation menu: sets the kind, asks what has to be settled first, and tells which windows open.
-// Nothing opens for a kind that is refused.
+// A command of the calculation menu: sets the kind, asks what has to be settled first, and tells which
+// windows open. Nothing opens for a kind that is refused.
 CalculationStart DispatchCalculation(Session& session, int kind);
 
 // Opening the calculation menu: the hint on a missing data series, and the texts that follow the models.

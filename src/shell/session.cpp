@@ -39,9 +39,13 @@ void Session::Enter(SessionEvent event) {
     commands.Apply(event, PhaseFacts{model.substance, model.selection, state.batchRowCount});
 }
 
-CalculationContext Session::Calculation() { return {model, options, names, batch, calculation, style}; }
+CalculationContext Session::Calculation() {
+    return {model, options, names, batch, calculation, style};
+}
 
-std::string_view ContactText() { return "ORVA-6: freie Software unter der GPL 3 oder neuer"; }
+std::string_view ContactText() {
+    return "ORVA-6: freie Software unter der GPL 3 oder neuer";
+}
 
 Message AboutMessage() {
     return {"Über das Programm",

@@ -18,8 +18,9 @@ namespace orva {
 
 // Owner of every record of one running program. The rooms get from it just what they read or write.
 class Session {
-  public:
-    // Start-up: decimal separator, model state, name tables, defaults of the windows, folders, enabling rules.
+public:
+    // Start-up: decimal separator, model state, name tables, defaults of the windows, folders, enabling
+    // rules.
     Session(const Machine& machine, Dialogs& dialogs);
 
     const Machine& machine;

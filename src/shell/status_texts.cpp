@@ -20,8 +20,9 @@ std::string SubstanceText(const Session& session) {
     if (state.substanceIndex == 0)
         return " ... noch kein Stoff\n";
     const SubstanceData& substance = session.model.substance;
-    return "... Stoff: " + std::string(TrimRight(substance.formula)) + ", " + std::string(TrimRight(substance.cas))
-           + ", " + substance.name + " (#" + std::to_string(state.substanceIndex) + ")\n";
+    return "... Stoff: " + std::string(TrimRight(substance.formula)) + ", "
+           + std::string(TrimRight(substance.cas)) + ", " + substance.name + " (#"
+           + std::to_string(state.substanceIndex) + ")\n";
 }
 
 // Name of the substance of the data series, if the database has it.
@@ -38,7 +39,8 @@ std::string BatchText(const Session& session) {
         return "... exper. T-p-rho-HLV-cp-Daten: keine\n";
     const std::string count = std::to_string(state.batchRowCount);
     if (state.batchFile.empty())
-        return "... exper. T-p-rho-HLV-cp-Daten: " + count + (state.batchRowCount == 1 ? " Datensatz" : " Datensätze")
+        return "... exper. T-p-rho-HLV-cp-Daten: " + count
+               + (state.batchRowCount == 1 ? " Datensatz" : " Datensätze")
                + " verfügbar,\nnoch nicht gespeichert.\n";
     std::string text = "... Stapeldatei " + state.batchFile;
     if (CharacterCount(state.batchDate) > 2)
@@ -66,7 +68,8 @@ Message EosParametersMessage(const Session& session) {
                 MessageIcon::Information};
     const EosParameters& eos = session.model.eos;
     const auto single = [&](double x) { return General(static_cast<float>(x), session.style); };
-    std::string text = "Parameter " + std::string(Trim(session.names.EosNames.at(static_cast<std::size_t>(selection.eos))))
+    std::string text = "Parameter "
+                       + std::string(Trim(session.names.EosNames.at(static_cast<std::size_t>(selection.eos))))
                        + "\nfür " + session.model.substance.name + "\n";
     text += "\na0 = " + single(eos.a0) + "\na1 = " + single(eos.nA);
     text += "\nb0 = " + single(eos.b0) + "\nb1 = " + single(eos.nB);

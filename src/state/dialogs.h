@@ -45,10 +45,10 @@ struct TextRequest {
 // How rooms without windows talk to the user. The windows answer with boxes, the command line collects the
 // messages, tests script the answers.
 class Dialogs {
-  public:
+public:
     virtual ~Dialogs() = default;
     virtual void Show(const Message& message) = 0;
-    virtual bool Ask(const Question& question) = 0;                              // true for Yes
+    virtual bool Ask(const Question& question) = 0;                                // true for Yes
     virtual std::optional<std::string> ChooseFile(const FileRequest& request) = 0; // empty on cancel
     virtual std::optional<std::string> InputText(const TextRequest& request) = 0;  // empty on cancel
 };

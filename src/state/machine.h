@@ -7,7 +7,7 @@ namespace orva {
 
 // What the rooms need to know of the machine they run on.
 class Machine {
-  public:
+public:
     virtual ~Machine() = default;
     // Folder of the programs, the database, the synonym and tip files.
     virtual std::filesystem::path InstallationFolder() const = 0;

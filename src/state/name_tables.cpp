@@ -42,8 +42,9 @@ constexpr std::array<std::string_view, 9> vaporPressureNames = {
 };
 
 constexpr std::array<std::string_view, 7> vaporizationModelNames = {
-    "Gleichung Fu(T) aus Datenbank ", "Chen-Korrelation",          "Carruth/Kobayashi-Korrelation",
-    "Watson-Korrelation",             "aus Dampfdruckgl.+ rhoL(T)", "aus Dampfdruckgl.+ Benson",
+    "Gleichung Fu(T) aus Datenbank ",  "Chen-Korrelation",
+    "Carruth/Kobayashi-Korrelation",   "Watson-Korrelation",
+    "aus Dampfdruckgl.+ rhoL(T)",      "aus Dampfdruckgl.+ Benson",
     "aus kub.-EOS (Globalberechnung)",
 };
 
@@ -54,10 +55,30 @@ constexpr std::array<std::string_view, 3> cpModelNames = {
 };
 
 constexpr std::array<std::string_view, 24> derivativeLabels = {
-    " (dp/dV) bei T", " (dp/dT) bei v", " (dV/dp) bei T", " (dV/dT) bei p", " (dT/dV) bei p", " (dT/dp) bei v",
-    " alpha/(1/K)  ", "   chi/(1/kPa)", "  beta/(1/K)  ", "       d2p/dV²", "",               "",
-    "       d2V/dT²", "       d2T/dV²", "     ln (phi*)", "    dln phi/dT", "  d2ln phi/dT²", "   (s-s_idG)/R",
-    "   (h-h_idG)/R", "   (g-g_idG)/R", " (cp-cp_idG)/R", " (dT/dp) bei H", " cv/kJ/kmol/K ", " cp/kJ/kmol/K ",
+    " (dp/dV) bei T",
+    " (dp/dT) bei v",
+    " (dV/dp) bei T",
+    " (dV/dT) bei p",
+    " (dT/dV) bei p",
+    " (dT/dp) bei v",
+    " alpha/(1/K)  ",
+    "   chi/(1/kPa)",
+    "  beta/(1/K)  ",
+    "       d2p/dV²",
+    "",
+    "",
+    "       d2V/dT²",
+    "       d2T/dV²",
+    "     ln (phi*)",
+    "    dln phi/dT",
+    "  d2ln phi/dT²",
+    "   (s-s_idG)/R",
+    "   (h-h_idG)/R",
+    "   (g-g_idG)/R",
+    " (cp-cp_idG)/R",
+    " (dT/dp) bei H",
+    " cv/kJ/kmol/K ",
+    " cp/kJ/kmol/K ",
 };
 
 // Characters, not bytes: the labels hold a "²".

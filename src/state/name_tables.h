@@ -7,7 +7,8 @@
 
 namespace orva {
 
-// Texts of the model lists, each blank-padded to 35 characters, and the labels of the derivative rows (14 characters).
+// Texts of the model lists, each blank-padded to 35 characters, and the labels of the derivative rows (14
+// characters).
 struct NameTables {
     std::array<std::string, 17> EosNames;              // index = ModelSelection.eos
     std::array<std::string, 9> VaporPressureNames;     // index = ModelSelection.vaporPressure

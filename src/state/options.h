@@ -14,7 +14,7 @@ struct Options {
     double energyFactor = 1.0;    // molar energy to displayed energy
     double volumeFactor = 1.0;    // molar volume to displayed volume
     std::int16_t curvePoints = 300;
-    bool curveTpRestricted = true;    // only T above T(trip), p above p(trip)
+    bool curveTpRestricted = true; // only T above T(trip), p above p(trip)
     bool sCurveWithoutTieLine = false;
     bool partialCurveGasOnly = false;
     float pFactor = 1, TFactor = 1; // to reduced pressure and temperature

@@ -12,8 +12,8 @@ namespace orva {
 // critical volume stay.
 void ResetEosParameters(EosParameters& eos);
 
-// The reset at start and before a new substance is taken from the list. It leaves the chosen equations alone, so
-// that the next substance keeps them where it can. The menus that it closes belong to the shell.
+// The reset at start and before a new substance is taken from the list. It leaves the chosen equations alone,
+// so that the next substance keeps them where it can. The menus that it closes belong to the shell.
 void ResetModelState(SubstanceModel& model, Options& options, SessionState& session, DiagramRanges& ranges);
 
 // Forgets the file of the loaded data series.

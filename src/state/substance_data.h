@@ -8,10 +8,10 @@ namespace orva {
 
 // Data of one pure substance, as they come from a database record.
 //
-// Units: T in K, p in kPa, rho in kg/m^3, v in m^3/kmol, energies in kJ/kmol, heat capacities and entropies in
-// kJ/(kmol K). Coefficients are single precision because the file holds singles. Temperature limits are whole
-// kelvins; a block with Tlo = 0 is absent. A value below 1e-6 counts as not given; a true zero is stored as 1E-37.
-// The form of each equation stands with the function that evaluates it (room thermo).
+// Units: T in K, p in kPa, rho in kg/m^3, v in m^3/kmol, energies in kJ/kmol, heat capacities and entropies
+// in kJ/(kmol K). Coefficients are single precision because the file holds singles. Temperature limits are
+// whole kelvins; a block with Tlo = 0 is absent. A value below 1e-6 counts as not given; a true zero is
+// stored as 1E-37. The form of each equation stands with the function that evaluates it (room thermo).
 
 // Antoine: lg p = A - B / (C + T - 273.15).
 struct AntoineBlock {

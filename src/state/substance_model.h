@@ -8,9 +8,10 @@
 
 namespace orva {
 
-// The current substance with its models: all that a property model reads and writes. The values A, B, C, D in `eos`
-// and the working set are overwritten by each evaluation at another temperature, and some results depend on the
-// order of evaluations; an operation that must not disturb its caller works on a copy of `eos` and `work`.
+// The current substance with its models: all that a property model reads and writes. The values A, B, C, D in
+// `eos` and the working set are overwritten by each evaluation at another temperature, and some results
+// depend on the order of evaluations; an operation that must not disturb its caller works on a copy of `eos`
+// and `work`.
 struct SubstanceModel {
     SubstanceData substance;
     ModelSelection selection;

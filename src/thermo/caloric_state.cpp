@@ -15,7 +15,7 @@ namespace {
 
 // The shared working set as it was, given back when the excursion to another state ends.
 class KeptWorkingSet {
-  public:
+public:
     explicit KeptWorkingSet(SubstanceModel& owner) : model(owner), eos(owner.eos), work(owner.work) {}
     ~KeptWorkingSet() {
         model.eos = eos;
@@ -24,15 +24,15 @@ class KeptWorkingSet {
     KeptWorkingSet(const KeptWorkingSet&) = delete;
     KeptWorkingSet& operator=(const KeptWorkingSet&) = delete;
 
-  private:
+private:
     SubstanceModel& model;
     EosParameters eos;
     EosWorkingSet work;
 };
 
 // Functions of one phase without its exergies. False when a residual function cannot be formed.
-bool FillPhase(SubstanceModel& model, double T, double p, double v, const IdealGasState& ideal, CaloricValues& values,
-               ResidualState& residual) {
+bool FillPhase(SubstanceModel& model, double T, double p, double v, const IdealGasState& ideal,
+               CaloricValues& values, ResidualState& residual) {
     residual = ResidualFunctions(model, T, p, v, ideal.cp);
     if (residual.failed)
         return false;
@@ -49,7 +49,8 @@ bool FillPhase(SubstanceModel& model, double T, double p, double v, const IdealG
     return true;
 }
 
-void AddExergies(const ReferencePoint& reference, double v, const AmbientPhase& ambient, CaloricValues& values) {
+void AddExergies(const ReferencePoint& reference, double v, const AmbientPhase& ambient,
+                 CaloricValues& values) {
     const double lost = reference.Tenv * (values.s - ambient.s);
     values.exergyH = (values.h - ambient.h) - lost;
     values.exergyU = (values.u - ambient.u) - lost + reference.penv * (v - ambient.v);
@@ -95,8 +96,8 @@ CaloricResult CaloricState(SubstanceModel& model, double T, double p, double v, 
     CaloricResult result;
     const IdealGasState ideal =
         IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p);
-    result.failed = ideal.failed || ambient.failed
-                    || !FillPhase(model, T, p, v, ideal, result.values, result.residual);
+    result.failed =
+        ideal.failed || ambient.failed || !FillPhase(model, T, p, v, ideal, result.values, result.residual);
     if (result.failed) {
         result.values = {};
         return result;

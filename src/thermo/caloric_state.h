@@ -6,8 +6,8 @@
 
 namespace orva {
 
-// Caloric functions: ideal-gas functions from the heat-capacity model, residual functions from the equation of
-// state, normalised by the reference point; exergies against the ambient state. kJ/kmol, kJ/(kmol K), m/s.
+// Caloric functions: ideal-gas functions from the heat-capacity model, residual functions from the equation
+// of state, normalised by the reference point; exergies against the ambient state. kJ/kmol, kJ/(kmol K), m/s.
 
 struct CaloricValues {
     double h = 0, u = 0, s = 0, g = 0, f = 0;
@@ -21,8 +21,8 @@ struct AmbientPhase {
     double h = 0, u = 0, s = 0, v = 0;
 };
 
-// The fluid at (Tenv, penv): where only one phase exists, it stands for both. It depends on substance, models and
-// reference point alone, so that a whole curve needs it once.
+// The fluid at (Tenv, penv): where only one phase exists, it stands for both. It depends on substance, models
+// and reference point alone, so that a whole curve needs it once.
 struct AmbientState {
     AmbientPhase liquid, vapour;
     bool hasV = false;
@@ -31,8 +31,8 @@ struct AmbientState {
     const AmbientPhase& Single() const { return hasV ? vapour : liquid; }
 };
 
-// The shared parameters and the working set are given back as they were; only the reference point may gain its
-// standard state.
+// The shared parameters and the working set are given back as they were; only the reference point may gain
+// its standard state.
 AmbientState EvaluateAmbientState(SubstanceModel& model);
 
 struct CaloricResult {

@@ -17,13 +17,17 @@ constexpr double newtonTolerance = 5e-7; // of the volume
 constexpr double flatSlope = 1e-80;
 constexpr double voHalmeInflection = 0.76528558; // zero of the fourth term of the temperature function
 
-double Square(double x) { return x * x; }
+double Square(double x) {
+    return x * x;
+}
 
 // T^n; most rows have n = 0, for which no power is taken.
-double TemperaturePower(double T, double n) { return n == 0 ? 1.0 : std::pow(T, n); }
+double TemperaturePower(double T, double n) {
+    return n == 0 ? 1.0 : std::pow(T, n);
+}
 
-// Vo / Halme: A from the temperature function, B, C, D from the critical point; the second row lets them shrink
-// away from the critical temperature.
+// Vo / Halme: A from the temperature function, B, C, D from the critical point; the second row lets them
+// shrink away from the critical temperature.
 void SetVoHalmeCoefficients(SubstanceModel& model, double T) {
     const double Tc = model.substance.Tc;
     const VoHalmeParameters& vh = model.voHalme;

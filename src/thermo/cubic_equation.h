@@ -5,8 +5,8 @@
 
 namespace orva {
 
-// The generalised cubic equation p = R T / (v - B) - A / ((v + C) (v + D)) and, for rows that are not cubic, the
-// truncated virial equation p = R T / (v - Bvir). T in K, p in kPa, v in m^3/kmol.
+// The generalised cubic equation p = R T / (v - B) - A / ((v + C) (v + D)) and, for rows that are not cubic,
+// the truncated virial equation p = R T / (v - Bvir). T in K, p in kPa, v in m^3/kmol.
 
 // Evaluates A, B, C, D at T into the shared set. Nothing changes for T below 1e-6 K.
 void SetEosCoefficients(SubstanceModel& model, double T);
@@ -16,8 +16,8 @@ struct PressureResult {
     bool failed = false;
 };
 
-// p(T, v). Fails for v at or below the co-volume, which for a cubic row is the B of the previous evaluation: the
-// comparison comes before the parameters are brought to T, and stays so.
+// p(T, v). Fails for v at or below the co-volume, which for a cubic row is the B of the previous evaluation:
+// the comparison comes before the parameters are brought to T, and stays so.
 PressureResult EosPressure(SubstanceModel& model, double T, double v);
 
 struct CubicSolution {

@@ -82,8 +82,8 @@ std::optional<Message> SolidDensityWarning(const DensityResult& result, const So
     if (std::abs(result.deviation) <= warnedDeviation)
         return std::nullopt;
     return Message{"Warnung zur Dichtegleichung rho(S) = Fu(T)",
-                   RangeWarningText(result.deviation) + "(Gültigkeitsbereich: " + std::to_string(block.Tlo) + " ... "
-                       + std::to_string(block.Thi) + " K)",
+                   RangeWarningText(result.deviation) + "(Gültigkeitsbereich: " + std::to_string(block.Tlo)
+                       + " ... " + std::to_string(block.Thi) + " K)",
                    MessageIcon::Exclamation};
 }
 
@@ -94,7 +94,8 @@ float BensonApproximation(double p, double pc, double rhoc) {
     return std::isfinite(rho) ? rho : 0;
 }
 
-double DiameterLiquidDensity(double T, double Tc, double rhoc, double rhoV, double T1, double rhoV1, double rhoL1) {
+double DiameterLiquidDensity(double T, double Tc, double rhoc, double rhoV, double T1, double rhoV1,
+                             double rhoL1) {
     const double rho = (rhoL1 + rhoV1) * (T - Tc) / (T1 - Tc) - rhoV + 2 * rhoc * (T1 - T) / (T1 - Tc);
     return std::isfinite(rho) ? rho : 0;
 }

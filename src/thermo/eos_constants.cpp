@@ -84,7 +84,9 @@ void PengRobinsonConstants(SubstanceModel& model) {
 
 } // namespace
 
-void ClearEosParameters(EosParameters& eos) { ResetEosParameters(eos); }
+void ClearEosParameters(EosParameters& eos) {
+    ResetEosParameters(eos);
+}
 
 double CriticalVolumeFromFactor(const SubstanceData& substance, double z) {
     return z * gasConstant * substance.Tc / substance.pc;

@@ -79,8 +79,8 @@ double SaturationTemperatureFrom(SubstanceModel& model, double p, double T) {
     return 0;
 }
 
-// A state inside the two-phase region gets the saturation temperature of its pressure. The cubic is solved with the
-// parameters of the last Newton evaluation.
+// A state inside the two-phase region gets the saturation temperature of its pressure. The cubic is solved
+// with the parameters of the last Newton evaluation.
 double CorrectedIfWet(SubstanceModel& model, double p, double v, double T) {
     if (SolveEosCubic(model, T, p).rootCount != 3)
         return T;

@@ -5,8 +5,8 @@
 
 namespace orva {
 
-// T in K at pressure p and mass density rho, 0 when nothing was found. `skipWetCheck` leaves out the correction of
-// states inside the two-phase region.
+// T in K at pressure p and mass density rho, 0 when nothing was found. `skipWetCheck` leaves out the
+// correction of states inside the two-phase region.
 double EosTemperature(SubstanceModel& model, double p, double rho, bool skipWetCheck);
 
 } // namespace orva

@@ -48,8 +48,12 @@ HeatCapacityResult IdealGasCp(const SubstanceData& substance, double T, int cpMo
     return {cp, false};
 }
 
-float LiquidCp(const SubstanceData& substance, double T) { return FiniteSingle(Polynomial(substance.cpLiquid, T)); }
+float LiquidCp(const SubstanceData& substance, double T) {
+    return FiniteSingle(Polynomial(substance.cpLiquid, T));
+}
 
-float SolidCp(const SubstanceData& substance, double T) { return FiniteSingle(Polynomial(substance.cpSolid, T)); }
+float SolidCp(const SubstanceData& substance, double T) {
+    return FiniteSingle(Polynomial(substance.cpSolid, T));
+}
 
 } // namespace orva

@@ -25,8 +25,8 @@ Integrals PolynomialIntegrals(const HeatCapacityPolynomial& x, double T, double 
     const double T03 = T02 * T0;
     const double T4 = T2 * T2;
     const double T04 = T02 * T02;
-    return {x.C0 * (T - T0) + (x.C1 / 2.0) * (T2 - T02) + (x.C2 / 3.0) * (T3 - T03) + (x.C3 / 4.0) * (T4 - T04)
-                + (x.C4 / 5.0) * (T4 * T - T04 * T0),
+    return {x.C0 * (T - T0) + (x.C1 / 2.0) * (T2 - T02) + (x.C2 / 3.0) * (T3 - T03)
+                + (x.C3 / 4.0) * (T4 - T04) + (x.C4 / 5.0) * (T4 * T - T04 * T0),
             x.C0 * std::log(T / T0) + x.C1 * (T - T0) + (x.C2 / 2.0) * (T2 - T02) + (x.C3 / 3.0) * (T3 - T03)
                 + (x.C4 / 4.0) * (T4 - T04)};
 }
@@ -43,10 +43,14 @@ struct Hyperbolic {
 };
 
 // x coth x - ln sinh x.
-double CothTerm(double x, const Hyperbolic& f) { return x * (f.cosh / f.sinh) - std::log(f.sinh); }
+double CothTerm(double x, const Hyperbolic& f) {
+    return x * (f.cosh / f.sinh) - std::log(f.sinh);
+}
 
 // x tanh x - ln cosh x.
-double TanhTerm(double x, const Hyperbolic& f) { return x * (f.sinh / f.cosh) - std::log(f.cosh); }
+double TanhTerm(double x, const Hyperbolic& f) {
+    return x * (f.sinh / f.cosh) - std::log(f.cosh);
+}
 
 Integrals SinhCoshIntegrals(const SinhCoshHeatCapacity& q, double T, double T0) {
     const double u = q.q2 / T;
@@ -83,8 +87,8 @@ ReferenceGas ReferenceGasState(const SubstanceData& substance, ReferencePoint& r
     return gas;
 }
 
-IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel, double T,
-                                double p) {
+IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel,
+                                double T, double p) {
     const ReferenceGas gas = ReferenceGasState(substance, reference, p);
     const HeatCapacityResult heat = IdealGasCp(substance, T, cpModel);
     if (heat.failed)

@@ -7,8 +7,9 @@
 namespace orva {
 
 // Constants of enthalpy (kJ/kmol) and entropy (kJ/(kmol K)) at pressure p by the kind of the reference point:
-// 1 both 0 at (T0, p0); 2 from the enthalpy of formation and the conventional entropy; 10 from the enthalpy and free
-// enthalpy of formation. Kinds 2 and 10 set (T0, p0) to 298.15 K and 101.325 kPa, and a p0 of 0 becomes 101.325.
+// 1 both 0 at (T0, p0); 2 from the enthalpy of formation and the conventional entropy; 10 from the enthalpy
+// and free enthalpy of formation. Kinds 2 and 10 set (T0, p0) to 298.15 K and 101.325 kPa, and a p0 of 0
+// becomes 101.325.
 struct ReferenceGas {
     double h = 0, s = 0;
 };
@@ -19,9 +20,9 @@ struct IdealGasState {
     bool failed = false;
 };
 
-// Functions of the ideal gas at T, p by the heat-capacity model in force. The polynomial is integrated with C4 as
-// the coefficient of T^4 whatever its form, kept on purpose.
-IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel, double T,
-                                double p);
+// Functions of the ideal gas at T, p by the heat-capacity model in force. The polynomial is integrated with
+// C4 as the coefficient of T^4 whatever its form, kept on purpose.
+IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel,
+                                double T, double p);
 
 } // namespace orva

@@ -17,8 +17,8 @@ struct ParameterSlopes {
 // Derivatives at T, for which A, B, C, D must be current.
 ParameterSlopes ParameterDerivatives(const SubstanceModel& model, double T);
 
-// Second virial coefficient of the row in force with its derivatives in T, m^3/kmol. The parameters are brought to T;
-// the coefficient stands in work.BVirial afterwards.
+// Second virial coefficient of the row in force with its derivatives in T, m^3/kmol. The parameters are
+// brought to T; the coefficient stands in work.BVirial afterwards.
 struct VirialSlopes {
     double B = 0, dB = 0, d2B = 0;
 };

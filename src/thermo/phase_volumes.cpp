@@ -15,7 +15,9 @@ constexpr double equalAreas = 0.001;          // area ratio that counts as satur
 constexpr double criticalVolumeWidth = 0.001; // m^3/kmol
 constexpr double smallestRootRatio = 1e-6;
 
-bool SameSingle(double a, double b) { return static_cast<float>(a) == static_cast<float>(b); }
+bool SameSingle(double a, double b) {
+    return static_cast<float>(a) == static_cast<float>(b);
+}
 
 std::int16_t RegionOf(const SubstanceData& substance, double T, double p) {
     const double Tc = substance.Tc;
@@ -44,7 +46,8 @@ void VirialVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& stat
     }
 }
 
-// Phase by the areas of the loop. Above T(cr) a small ratio still gives vapour; a clearly negative one liquid.
+// Phase by the areas of the loop. Above T(cr) a small ratio still gives vapour; a clearly negative one
+// liquid.
 void DecideThreeRoots(SubstanceModel& model, double T, double p, PhaseVolumes& state) {
     const auto& roots = model.work.Roots;
     const double B = model.eos.B;
@@ -153,7 +156,8 @@ std::string_view StatusText(const PhaseVolumes& state) {
         return "keine Lösung gefunden";
     case VolumeVerdict::OneRoot:
         if (state.supercritical)
-            return state.critical ? "1 V-Lösung der EOS; überkritisch; kritisch" : "1 V-Lösung der EOS; überkritisch";
+            return state.critical ? "1 V-Lösung der EOS; überkritisch; kritisch"
+                                  : "1 V-Lösung der EOS; überkritisch";
         return state.critical ? "1 V-Lösung der EOS; kritisch" : "1 V-Lösung der EOS";
     case VolumeVerdict::None:
         break;

@@ -11,8 +11,8 @@ namespace orva {
 // What the volume solver says in words.
 enum class VolumeVerdict : std::uint8_t { None, VapourOnly, ThreeRoots, OneRoot, NoSolution };
 
-// Phases and volumes at T, p. Both flags set means: on the two-phase line within tolerance (three roots), or one
-// undivided fluid (one root). Values that a branch does not set keep what they held before the call.
+// Phases and volumes at T, p. Both flags set means: on the two-phase line within tolerance (three roots), or
+// one undivided fluid (one root). Values that a branch does not set keep what they held before the call.
 struct PhaseVolumes {
     bool hasL = false, hasV = false;
     double rhoV = 0, rhoL = 0; // kg/m^3

@@ -15,7 +15,9 @@ namespace {
 
 constexpr float boilingPressure = 101.3F; // kPa
 
-bool Given(double x) { return x > missingValue; }
+bool Given(double x) {
+    return x > missingValue;
+}
 
 void LiquidAtBoilingPoint(const SubstanceData& substance, ReferenceDensityProposal& point) {
     const LiquidDensityBlock& c = substance.rhoLiquid;
@@ -32,7 +34,8 @@ void LiquidAtBoilingPoint(const SubstanceData& substance, ReferenceDensityPropos
             point.liquid = LiquidDensitySource::Equation;
         }
     } else if (Given(c.r1) && Given(std::abs(c.r2)) && Given(c.r3)) {
-        point.rhoL = static_cast<float>(static_cast<double>(c.r2) * point.T + c.r1 - static_cast<double>(c.r3) * c.r2);
+        point.rhoL =
+            static_cast<float>(static_cast<double>(c.r2) * point.T + c.r1 - static_cast<double>(c.r3) * c.r2);
         point.liquid = LiquidDensitySource::Slope;
     }
 }
@@ -44,7 +47,8 @@ void LiquidAtSinglePoint(const SubstanceModel& model, ReferenceDensityProposal& 
     point.T = c.r3;
     point.rhoL = c.r1;
     point.liquid = LiquidDensitySource::SinglePoint;
-    point.p = static_cast<float>(VapourPressure(model.substance, point.T, model.selection.vaporPressure).value);
+    point.p =
+        static_cast<float>(VapourPressure(model.substance, point.T, model.selection.vaporPressure).value);
 }
 
 float DensityOf(double M, double v) {

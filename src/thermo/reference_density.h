@@ -20,8 +20,9 @@ struct ReferenceDensityProposal {
 };
 
 // The normal boiling point with the density of the liquid from the database, or the single point of the
-// liquid-density block; the density of the vapour from the equation of state, the Pitzer/Curl virial equation or the
-// ideal gas. Kept on purpose: the pressure at the boiling point is 101.3 kPa, while its text says 101.325.
+// liquid-density block; the density of the vapour from the equation of state, the Pitzer/Curl virial equation
+// or the ideal gas. Kept on purpose: the pressure at the boiling point is 101.3 kPa, while its text says
+// 101.325.
 ReferenceDensityProposal ProposeReferenceDensityPoint(SubstanceModel& model);
 
 } // namespace orva

@@ -18,9 +18,9 @@ struct FugacityTerms {
     const EosParameters& eos;
     const ParameterSlopes& s;
     double T, p, v;
-    double a;            // A / (R T)
-    double u, c, d;      // v - B, v + C, v + D
-    double vT, vTT, uT;  // dv/dT, d2v/dT2 at p, du/dT
+    double a;           // A / (R T)
+    double u, c, d;     // v - B, v + C, v + D
+    double vT, vTT, uT; // dv/dT, d2v/dT2 at p, du/dT
 };
 
 // ln phi and its derivatives in T for C = D.
@@ -78,8 +78,9 @@ void SeparatePoles(const FugacityTerms& f, ResidualTable& r) {
     const double t1 = -(f.uT * f.uT + (f.vTT - f.s.d2B) * f.v - f.s.d2B * f.u) / u2;
     const double t2 = 2 * lag * f.uT / (u2 * f.u);
     const double t3 = -1 / (f.T * f.T) + t1 + t2;
-    double z = t3
-               + (((f.s.d2a * Delta - (f.s.d2C - f.s.d2D) * f.a) / Delta2) + (-2 * j * DT) / (Delta2 * Delta)) * L;
+    double z =
+        t3
+        + (((f.s.d2a * Delta - (f.s.d2C - f.s.d2D) * f.a) / Delta2) + (-2 * j * DT) / (Delta2 * Delta)) * L;
     z = z + 2 * (j / Delta2) * (atD.first - atC.first);
     r.d2lnPhidT2 = z + (f.a / Delta) * (atD.second - atC.second);
 }
@@ -92,8 +93,18 @@ bool CubicRows(SubstanceModel& model, double T, double p, double v, ResidualStat
     const ParameterSlopes s = ParameterDerivatives(model, T);
     state.thermal = CubicDerivatives(eos, s, T, v);
     const double vT = state.thermal.dvdT;
-    const FugacityTerms f{eos, s,  T, p, v, eos.A / (gasConstant * T), v - eos.B, v + eos.C, v + eos.D, vT,
-                          state.thermal.d2vdT2, vT - s.dB};
+    const FugacityTerms f{eos,
+                          s,
+                          T,
+                          p,
+                          v,
+                          eos.A / (gasConstant * T),
+                          v - eos.B,
+                          v + eos.C,
+                          v + eos.D,
+                          vT,
+                          state.thermal.d2vdT2,
+                          vT - s.dB};
     if (eos.C == eos.D)
         EqualPoles(f, state.table);
     else

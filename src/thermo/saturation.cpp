@@ -37,7 +37,9 @@ constexpr double smallestIterate = 1e-10;
 
 enum class Pass { Continue, Converged, Failed };
 
-bool SameSingle(double a, double b) { return static_cast<float>(a) == static_cast<float>(b); }
+bool SameSingle(double a, double b) {
+    return static_cast<float>(a) == static_cast<float>(b);
+}
 
 SaturationResult Failure(const SaturationResult& search = {}) {
     return {0, search.areaRatio, search.area1, search.area2, true};
@@ -64,7 +66,7 @@ void TakeAreas(SaturationResult& search, const AreaRatio& areas) {
 struct SecantState {
     double value = 0;
     double step = 0;
-    double wOld = 0;                // kind of the last single root
+    double wOld = 0;                   // kind of the last single root
     double valueOld = 0, ratioOld = 0; // last pass with three roots
     int singlePasses = 0, triplePasses = 0, restarts = 0;
 
@@ -79,10 +81,12 @@ struct SecantState {
 };
 
 // Kind of a single root: -1 for a liquid-like one, its volume for a vapour-like one.
-double RootKind(double root, double vCrit) { return root < vCrit ? -1 : root; }
+double RootKind(double root, double vCrit) {
+    return root < vCrit ? -1 : root;
+}
 
-// One root means that the trial pressure lies outside of the loop: too high for a liquid-like root, too low for a
-// vapour-like one.
+// One root means that the trial pressure lies outside of the loop: too high for a liquid-like root, too low
+// for a vapour-like one.
 void SteerPressure(SecantState& s, double root, double vCrit) {
     ++s.singlePasses;
     const double w = RootKind(root, vCrit);
@@ -213,7 +217,8 @@ SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstar
     return Failure(result);
 }
 
-// Scan downward from T(cr). Kept on purpose: the first step in kelvins is the number (p(cr) - p) / 100 in kPa.
+// Scan downward from T(cr). Kept on purpose: the first step in kelvins is the number (p(cr) - p) / 100 in
+// kPa.
 SaturationResult ScanTemperature(SubstanceModel& model, double p) {
     SaturationResult result;
     double q = (model.substance.pc - p) / 100;

@@ -5,8 +5,8 @@
 
 namespace orva {
 
-// Vapour-liquid equilibrium of a cubic row by equal areas of the isotherm: a secant search drives the area ratio
-// x = (area1 + area2) / (area1 - area2) to 0. x > 0 means that vapour is the stable phase.
+// Vapour-liquid equilibrium of a cubic row by equal areas of the isotherm: a secant search drives the area
+// ratio x = (area1 + area2) / (area1 - area2) to 0. x > 0 means that vapour is the stable phase.
 
 struct SaturationResult {
     double value = 0; // p(LV) in kPa or T(LV) in K, 0 when failed
@@ -14,13 +14,14 @@ struct SaturationResult {
     bool failed = false;
 };
 
-// p(LV) at T. On success work.Roots and the parameters stand at the solution: Roots[0] is the liquid, Roots[2] the
-// vapour volume. Fails above T(cr) and for rows that are not cubic. The search starts from the vapour-pressure
-// equation in force. Near T(cr) it may end by p = p(cr) in single precision, without equal areas.
+// p(LV) at T. On success work.Roots and the parameters stand at the solution: Roots[0] is the liquid,
+// Roots[2] the vapour volume. Fails above T(cr) and for rows that are not cubic. The search starts from the
+// vapour-pressure equation in force. Near T(cr) it may end by p = p(cr) in single precision, without equal
+// areas.
 SaturationResult EosSaturationPressure(SubstanceModel& model, double T);
 
-// T(LV) at p, likewise; fails above p(cr). `Tstart` of 0 means that there is no start value. Below 0.02 p(cr) a scan
-// downward from T(cr) takes the place of the secant search, and Tstart is not used.
+// T(LV) at p, likewise; fails above p(cr). `Tstart` of 0 means that there is no start value. Below 0.02 p(cr)
+// a scan downward from T(cr) takes the place of the secant search, and Tstart is not used.
 SaturationResult EosSaturationTemperature(SubstanceModel& model, double p, double Tstart = 0);
 
 } // namespace orva

@@ -51,8 +51,9 @@ struct VolumeCubic {
         return v;
     }
 
-    // Left of its point of inflection the cubic is concave and negative at the co-volume; right of it it is convex
-    // and positive at RT/p + B. So Newton's method comes to an outer root from its own side without overshooting.
+    // Left of its point of inflection the cubic is concave and negative at the co-volume; right of it it is
+    // convex and positive at RT/p + B. So Newton's method comes to an outer root from its own side without
+    // overshooting.
     double LiquidRoot() const { return NewtonFrom(B); }
     double VapourRoot() const { return NewtonFrom(q); }
 };
@@ -72,8 +73,8 @@ TrialVolumes SolveVolumes(const EosParameters& eos, double T, double p) {
     TrialVolumes volumes;
     volumes.liquidLike = cubic.At(inflection) > 0;
     if (disc > 0) {
-        // Both extrema are positive where there are three volumes; the smaller one follows from their product, since
-        // it can be smaller by many orders.
+        // Both extrema are positive where there are three volumes; the smaller one follows from their
+        // product, since it can be smaller by many orders.
         const double minimum = inflection + std::sqrt(disc) / 3;
         const double maximum = cubic.c1 / 3 / minimum;
         volumes.three = cubic.At(maximum) > 0 && cubic.At(minimum) < 0;

@@ -22,7 +22,8 @@ double Curvature(SubstanceModel& model, const ParameterSlopes& slopes, double T,
 }
 
 // Marches until the curvature changes sign, then turns and refines. False when the steps run out.
-bool March(SubstanceModel& model, const ParameterSlopes& slopes, double T, InflectionPoint& point, double previous) {
+bool March(SubstanceModel& model, const ParameterSlopes& slopes, double T, InflectionPoint& point,
+           double previous) {
     double step = marchStep;
     for (int n = 1; n <= marchSteps; ++n) {
         point.v += step;

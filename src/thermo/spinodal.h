@@ -9,9 +9,9 @@ namespace orva {
 
 // Points of inflection of the isotherm p(v), where d2p/dv2 = 0, found by marching outward from the co-volume.
 struct InflectionPoint {
-    double v = 0;      // m^3/kmol, 0 for none
-    double p = 0;      // kPa
-    double slope = 0;  // the marched second derivative where the search ended
+    double v = 0;     // m^3/kmol, 0 for none
+    double p = 0;     // kPa
+    double slope = 0; // the marched second derivative where the search ended
 };
 struct SpinodalSearch {
     std::array<InflectionPoint, 2> points;

@@ -11,7 +11,8 @@ namespace {
 
 constexpr double poleWidth = 1e-11; // m^3/kmol
 
-void FillSecond(const EosParameters& eos, const ParameterSlopes& s, double T, double v, ThermalDerivatives& d) {
+void FillSecond(const EosParameters& eos, const ParameterSlopes& s, double T, double v,
+                ThermalDerivatives& d) {
     const double R = gasConstant;
     const double A = eos.A;
     const double C = eos.C;
@@ -33,8 +34,8 @@ void FillSecond(const EosParameters& eos, const ParameterSlopes& s, double T, do
             + (2 * (vT * v + Y) + vT * (C + D)) * s.dA)
                / W2;
     P1 = P1 - (drift * 2 * A * Y) / W3;
-    const double P2 = -R * (u - 2 * T * E) / u3 + (A * (2 * vT + s.dC + s.dD) + S * s.dA) / W2
-                      - (drift * 2 * A * S) / W3;
+    const double P2 =
+        -R * (u - 2 * T * E) / u3 + (A * (2 * vT + s.dC + s.dD) + S * s.dA) / W2 - (drift * 2 * A * S) / W3;
     d.d2pdv2 = 2 * (R * T / u3 - A * ((C + D + v) * 3 * v - C * D + (C + D) * (C + D)) / W3);
     d.d2vdT2 = -(P2 * vT + P1) / d.dpdv;
     d.d2Tdv2 = -(P1 / vT + P2) / d.dpdv / vT;
@@ -49,8 +50,8 @@ ThermalDerivatives CubicDerivatives(const EosParameters& eos, const ParameterSlo
         return d;
     const double W = (v + eos.C) * (v + eos.D);
     d.dpdv = eos.A * (2 * v + eos.C + eos.D) / (W * W) - gasConstant * T / (u * u);
-    d.dpdT = ((v + eos.D) * s.dC + (v + eos.C) * s.dD) * eos.A / (W * W) + gasConstant * (T * s.dB + u) / (u * u)
-             - s.dA / W;
+    d.dpdT = ((v + eos.D) * s.dC + (v + eos.C) * s.dD) * eos.A / (W * W)
+             + gasConstant * (T * s.dB + u) / (u * u) - s.dA / W;
     d.dvdp = 1 / d.dpdv;
     d.dvdT = -d.dpdT / d.dpdv;
     d.dTdv = 1 / d.dvdT;

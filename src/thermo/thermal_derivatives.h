@@ -21,8 +21,8 @@ struct ThermalDerivatives {
     double d2Tdv2 = 0; // -(dv/dT) times the second derivative, kept on purpose
 };
 
-// Derivatives of the cubic equation. A, B, C, D must be current at T and `s` belong to them. Nothing is formed
-// within 1e-11 m^3/kmol of the co-volume.
+// Derivatives of the cubic equation. A, B, C, D must be current at T and `s` belong to them. Nothing is
+// formed within 1e-11 m^3/kmol of the co-volume.
 ThermalDerivatives CubicDerivatives(const EosParameters& eos, const ParameterSlopes& s, double T, double v);
 
 // Derivatives of v = R T / p + B.

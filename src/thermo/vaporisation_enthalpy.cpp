@@ -18,7 +18,9 @@ namespace {
 
 constexpr int warnedDeviation = 5;
 
-bool Missing(double x) { return !(x > missingValue); }
+bool Missing(double x) {
+    return !(x > missingValue);
+}
 
 void Keep(std::optional<Message> warning, VaporisationResult& result) {
     if (warning)
@@ -77,7 +79,8 @@ bool FindTemperature(SubstanceModel& model, int way, int equation, double rowT, 
         if (!TemperatureFromEos(model, result))
             return false;
     } else {
-        const VapourPressureResult temperature = VapourPressureTemperature(model.substance, result.p, equation);
+        const VapourPressureResult temperature =
+            VapourPressureTemperature(model.substance, result.p, equation);
         Keep(VapourPressureTemperatureWarning(temperature), result);
         result.T = temperature.value;
         result.info = VaporisationInfo::TemperatureFromEquation;
@@ -121,13 +124,15 @@ double Chen(const SubstanceData& substance, const VaporisationResult& state) {
 
 double CarruthKobayashi(const SubstanceData& substance, double T) {
     const double x = 1 - T / substance.Tc;
-    return gasConstant * substance.Tc * (7.08 * std::pow(x, 0.354) + 10.95 * substance.omega * std::pow(x, 0.456));
+    return gasConstant * substance.Tc
+           * (7.08 * std::pow(x, 0.354) + 10.95 * substance.omega * std::pow(x, 0.456));
 }
 
 double Watson(const SubstanceModel& model, double T) {
     const SubstanceData& substance = model.substance;
     return substance.hVapRef
-           * std::pow((substance.Tc - T) / (substance.Tc - substance.TVapRef), model.selection.watsonExponent);
+           * std::pow((substance.Tc - T) / (substance.Tc - substance.TVapRef),
+                      model.selection.watsonExponent);
 }
 
 // Clapeyron with the slope of the vapour-pressure equation.
@@ -144,8 +149,8 @@ double Clapeyron(SubstanceModel& model, int way, int equation, const SaturatedDe
         Keep(LiquidDensityWarning(density), result);
         rhoL = density.failed ? 0 : density.rho;
     } else {
-        rhoL = DiameterLiquidDensity(result.T, substance.Tc, substance.rhoc, rhoV, reference.T, reference.rhoV,
-                                     reference.rhoL);
+        rhoL = DiameterLiquidDensity(result.T, substance.Tc, substance.rhoc, rhoV, reference.T,
+                                     reference.rhoV, reference.rhoL);
     }
     if (!(rhoL * rhoV > missingValue))
         return std::nan("");

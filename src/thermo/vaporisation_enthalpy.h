@@ -53,26 +53,27 @@ struct VaporisationRequest {
 };
 
 struct VaporisationResult {
-    std::int32_t h = 0;      // kJ/kmol, rounded half to even
-    double T = 0, p = 0;     // with the missing one found
-    double zV = 0, zL = 0;   // compressibility factors of models 5 and 6
-    int outside = 0;         // K out of the range of the database function, positive on both sides
-    int rootIndex = 0;       // roots of the cubic, models 5 to 7
+    std::int32_t h = 0;          // kJ/kmol, rounded half to even
+    double T = 0, p = 0;         // with the missing one found
+    double zV = 0, zL = 0;       // compressibility factors of models 5 and 6
+    int outside = 0;             // K out of the range of the database function, positive on both sides
+    int rootIndex = 0;           // roots of the cubic, models 5 to 7
     double zEosV = 0, zEosL = 0; // factors of the equation of state, model 7
     VaporisationInfo info = VaporisationInfo::None;
     bool failed = false;
     std::vector<Message> warnings; // boxes for values out of their range of validity
 };
 
-// Database function alone: A exp(-B Tr) (1 - Tr)^(C + D Tr + E Tr^2 + F Tr^3), Tr = T / Tcr of the block; DIPPR 106
-// for B = 0. Fails without a block and above its reference temperature.
+// Database function alone: A exp(-B Tr) (1 - Tr)^(C + D Tr + E Tr^2 + F Tr^3), Tr = T / Tcr of the block;
+// DIPPR 106 for B = 0. Fails without a block and above its reference temperature.
 struct VaporisationDbResult {
     double h = 0;
     bool failed = false;
 };
 VaporisationDbResult VaporisationEnthalpyDb(const SubstanceData& substance, double T);
 
-// The way `vaporisationModel` with the vapour-pressure equation `equation`. T above T(cr) fails, T(cr) is allowed.
+// The way `vaporisationModel` with the vapour-pressure equation `equation`. T above T(cr) fails, T(cr) is
+// allowed.
 VaporisationResult VaporisationEnthalpy(SubstanceModel& model, int vaporisationModel, int equation,
                                         const VaporisationRequest& request);
 

@@ -11,8 +11,8 @@ namespace orva {
 
 namespace {
 
-constexpr double lowestTemperature = 1e-6; // K
-constexpr double lowestPressure = 1e-35;   // kPa: a smaller result counts as none
+constexpr double lowestTemperature = 1e-6;    // K
+constexpr double lowestPressure = 1e-35;      // kPa: a smaller result counts as none
 constexpr double temperatureTolerance = 1e-4; // relative
 constexpr double flatSlope = 1e-35;
 constexpr int newtonSteps = 1000; // a generous end for the open iterations
@@ -20,11 +20,17 @@ constexpr int newtonSteps = 1000; // a generous end for the open iterations
 const VapourPressureResult noSolution{0, true, 0};
 
 // The August equation has no upper limit, and Tb is its lower one.
-int AugustDeviation(double T, double Tb) { return T < Tb ? RoundedKelvins(T - Tb) : 0; }
+int AugustDeviation(double T, double Tb) {
+    return T < Tb ? RoundedKelvins(T - Tb) : 0;
+}
 
 // A block without any coefficient would pass as p = 1 kPa; it is a missing one and fails.
-bool IsMissing(const AntoineBlock& block) { return block.A == 0 && block.B == 0; }
-bool IsMissing(const AugustBlock& block) { return block.A == 0 && block.B == 0; }
+bool IsMissing(const AntoineBlock& block) {
+    return block.A == 0 && block.B == 0;
+}
+bool IsMissing(const AugustBlock& block) {
+    return block.A == 0 && block.B == 0;
+}
 bool IsMissing(const FrostKalkwarfBlock& block) {
     return block.c1 == 0 && block.c2 == 0 && block.c4 == 0 && block.c5 == 0 && block.c7 == 0 && block.c8 == 0;
 }
@@ -127,7 +133,8 @@ VapourPressureResult WagnerTemperature(const SubstanceData& substance, double p)
         const double dT = -((wagner.Tref / T) * S - lnRatio) / slope;
         T += dT;
         if (std::abs(dT / T) < temperatureTolerance)
-            return Checked(T, RangeDeviationIfGiven(T, substance.wagner.Tlo, substance.wagner.Thi), lowestTemperature);
+            return Checked(T, RangeDeviationIfGiven(T, substance.wagner.Tlo, substance.wagner.Thi),
+                           lowestTemperature);
     }
     return noSolution;
 }
@@ -156,12 +163,15 @@ double AntoineSlope(const AntoineBlock& block, double T) {
     return -(T * T) * ln10 * block.B / (t * t);
 }
 
-double FrostKalkwarfSlope(const SubstanceData& substance, const FrostKalkwarfBlock& block, double T, int equation) {
+double FrostKalkwarfSlope(const SubstanceData& substance, const FrostKalkwarfBlock& block, double T,
+                          int equation) {
     const FrostKalkwarfForm form(block, equation == vpFrostKalkwarf);
     const double p = VapourPressure(substance, T, equation).value;
-    // Kept on purpose: C - T, where the pressure equation has C + T. It matters only for a stored C other than 0.
+    // Kept on purpose: C - T, where the pressure equation has C + T. It matters only for a stored C other
+    // than 0.
     const double t = form.C - T;
-    const double X = -form.B * ln10 / (t * t) + form.G * ln10 + form.I * form.H * ln10 * std::pow(T, form.I - 1);
+    const double X =
+        -form.B * ln10 / (t * t) + form.G * ln10 + form.I * form.H * ln10 * std::pow(T, form.I - 1);
     const double Y = X * T + form.D;
     const double TF = std::pow(T, form.F);
     const double N = TF * Y - form.F * form.E * ln10 * p;
@@ -173,8 +183,7 @@ double WagnerSlope(const WagnerBlock& block, double T) {
     const double tau = wagner.Tau(T);
     if (!(tau >= wagnerSmallestTau))
         return std::nan("");
-    return -(T * T)
-           * ((-wagner.Tref / (T * T)) * wagner.Sum(tau) + (wagner.Tref / T) * wagner.SumSlope(tau));
+    return -(T * T) * ((-wagner.Tref / (T * T)) * wagner.Sum(tau) + (wagner.Tref / T) * wagner.SumSlope(tau));
 }
 
 std::optional<Message> RangeWarning(const VapourPressureResult& result, int limit, const char* lead) {

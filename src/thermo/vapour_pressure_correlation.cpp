@@ -14,7 +14,9 @@ float FiniteSingle(double x) {
     return std::isfinite(single) ? single : 0.0F;
 }
 
-double Lg(double x) { return std::log(x) / ln10; }
+double Lg(double x) {
+    return std::log(x) / ln10;
+}
 
 // Antoine constants through (Tb, 101.325 kPa) and (Tc, pc) with C after Thomson.
 void CorrelateThompson(AntoineBlock& block, double Tc, double pc, double Tb) {
@@ -28,8 +30,9 @@ void CorrelateThompson(AntoineBlock& block, double Tc, double pc, double Tb) {
     block.C = FiniteSingle(C);
 }
 
-// Frost/Kalkwarf constants from Tb, Tc, pc. `attraction` is the factor of the pressure term that belongs to the
-// equation of state, `exponent` its power of T. All steps run in double; only what is stored becomes single.
+// Frost/Kalkwarf constants from Tb, Tc, pc. `attraction` is the factor of the pressure term that belongs to
+// the equation of state, `exponent` its power of T. All steps run in double; only what is stored becomes
+// single.
 void CorrelateFrostKalkwarf(FrostKalkwarfBlock& block, double Tc, double pc, double Tb, double attraction,
                             double exponent) {
     const double power = std::pow(Tc, exponent);
@@ -65,8 +68,8 @@ void CorrelateVapourPressure(SubstanceData& substance, int equation, float Tc, f
 }
 
 void CorrelateVapourPressure(SubstanceData& substance, int equation) {
-    CorrelateVapourPressure(substance, equation, static_cast<float>(substance.Tc), static_cast<float>(substance.pc),
-                            substance.Tb);
+    CorrelateVapourPressure(substance, equation, static_cast<float>(substance.Tc),
+                            static_cast<float>(substance.pc), substance.Tb);
 }
 
 } // namespace orva

@@ -38,8 +38,8 @@ struct WagnerForm {
 };
 
 // lg p = A + B / (C + T) + D lg T + E p / T^F + G T + H T^I.
-// Frost, Kalkwarf, J. Chem. Phys. 21 (1953) 264, extended. A stored block has C relative to the Celsius scale and F
-// less 2; a correlated one holds the working values.
+// Frost, Kalkwarf, J. Chem. Phys. 21 (1953) 264, extended. A stored block has C relative to the Celsius scale
+// and F less 2; a correlated one holds the working values.
 struct FrostKalkwarfForm {
     double A, B, C, D, E, F, G, H, I;
 

@@ -12,10 +12,12 @@ namespace {
 
 constexpr double lowestTemperature = 1e-6; // K
 
-double FiniteOrZero(double x) { return std::isfinite(x) ? x : 0.0; }
+double FiniteOrZero(double x) {
+    return std::isfinite(x) ? x : 0.0;
+}
 
-// A and B as the cubic rows form them. For the row entered by hand the slots mean something else, and the values
-// are of no use.
+// A and B as the cubic rows form them. For the row entered by hand the slots mean something else, and the
+// values are of no use.
 void EvaluateAttraction(SubstanceModel& model, double T) {
     EosParameters& eos = model.eos;
     const double A = eos.AlphaForm == 1

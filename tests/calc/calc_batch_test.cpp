@@ -122,14 +122,16 @@ TEST_P(GivenState, IsJudgedAgainstTheCriticalPoint) {
 
 INSTANTIATE_TEST_SUITE_P(
     Butane, GivenState,
-    testing::Values(
-        Verdict{300, 100, 0, "3 V-Lösungen der EOS", false, "L-Phase", "V-Phase", false},
-        Verdict{200, 3000, 0, "1 V-Lösung der EOS", false, "L-Phase", "V-Phase", false},
-        Verdict{300, 5000, 1, "=> überkritische L-Phase (T < T(cr), p > p(cr))", true, "L-Phase", "L-Phase", false},
-        Verdict{500, 6000, 2, "=> überkritische Phase L = V (T > T(cr), p > p(cr))", true, "L-Phase", "V-Phase", true},
-        Verdict{500, 100, 3, "=> überkritische V-Phase (T > T(cr), p < p(cr))", true, "V-Phase", "V-Phase", false},
-        // On the critical isobar the words of the equation of state stay, blue.
-        Verdict{300, 3796, 1, "1 V-Lösung der EOS", true, "L-Phase", "V-Phase", false}));
+    testing::Values(Verdict{300, 100, 0, "3 V-Lösungen der EOS", false, "L-Phase", "V-Phase", false},
+                    Verdict{200, 3000, 0, "1 V-Lösung der EOS", false, "L-Phase", "V-Phase", false},
+                    Verdict{300, 5000, 1, "=> überkritische L-Phase (T < T(cr), p > p(cr))", true, "L-Phase",
+                            "L-Phase", false},
+                    Verdict{500, 6000, 2, "=> überkritische Phase L = V (T > T(cr), p > p(cr))", true,
+                            "L-Phase", "V-Phase", true},
+                    Verdict{500, 100, 3, "=> überkritische V-Phase (T > T(cr), p < p(cr))", true, "V-Phase",
+                            "V-Phase", false},
+                    // On the critical isobar the words of the equation of state stay, blue.
+                    Verdict{300, 3796, 1, "1 V-Lösung der EOS", true, "L-Phase", "V-Phase", false}));
 
 TEST(CalcBatch, DiagnosisNeedsACubicEquationAndTheGlobalMethod) {
     Calculation c;

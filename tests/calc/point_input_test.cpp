@@ -16,10 +16,11 @@ TEST(PointInput, AsksForWhatTheKindNeeds) {
         int kind;
         bool T, p, rhoV, rhoL;
     };
-    for (const Shown& s : {Shown{kindTP, true, true, false, false}, Shown{kindTRho, true, false, true, false},
-                           Shown{kindTRhoLiquid, true, false, false, true}, Shown{kindPRho, false, true, true, false},
-                           Shown{kindSaturationTemperature, false, true, false, false},
-                           Shown{kindLiquidDensity, true, false, false, false}}) {
+    for (const Shown& s :
+         {Shown{kindTP, true, true, false, false}, Shown{kindTRho, true, false, true, false},
+          Shown{kindTRhoLiquid, true, false, false, true}, Shown{kindPRho, false, true, true, false},
+          Shown{kindSaturationTemperature, false, true, false, false},
+          Shown{kindLiquidDensity, true, false, false, false}}) {
         PointInput input(s.kind, butane, options, batch);
         EXPECT_EQ(input.Lines()[0].visible, s.T) << s.kind;
         EXPECT_EQ(input.Lines()[1].visible, s.p) << s.kind;
@@ -140,9 +141,10 @@ TEST(ResultWindow, StatusLineShowsPointsUnderADecimalComma) {
     Calculation c;
     c.style.decimal = ',';
     c.model.selection.vaporPressure = vpWagner;
-    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).StatusLine(),
-              "CEOS Peng / Robinson; Wagner;  T(cr)/K = 425.13; p(cr)/kPa = 3796; v(cr, exp)/m^3/kmol= 0.2549; "
-              "v(cr, calc)= 0.2862 ");
+    EXPECT_EQ(
+        ResultWindow(c.Context(), c.model.substance).StatusLine(),
+        "CEOS Peng / Robinson; Wagner;  T(cr)/K = 425.13; p(cr)/kPa = 3796; v(cr, exp)/m^3/kmol= 0.2549; "
+        "v(cr, calc)= 0.2862 ");
 }
 
 TEST(ResultWindow, StatusLineLeavesOutWhatIsNotGiven) {

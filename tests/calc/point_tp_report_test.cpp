@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reports for a given temperature and pressure, character by character. The volumes were computed apart from the
-// program, by bisection of the Peng/Robinson equation with R = 8.31451 kJ/(kmol K).
+// Reports for a given temperature and pressure, character by character. The volumes were computed apart from
+// the program, by bisection of the Peng/Robinson equation with R = 8.31451 kJ/(kmol K).
 #include <gtest/gtest.h>
 
 #include "calc_fixture.h"
@@ -97,7 +97,8 @@ TEST(PointTPReport, DecimalCommaReachesEveryNumber) {
 TEST(PointTPReport, VirialRowNamesItsCoefficientTwice) {
     Calculation c(virialPitzerCurl);
     const PointResult r = c.At(300, 100);
-    // Pitzer/Curl at Tr = 300/425.125, omega 0.2: B = -0.717449009 m^3/kmol; v = R T/p + B = 24.226081 m^3/kmol
+    // Pitzer/Curl at Tr = 300/425.125, omega 0.2: B = -0.717449009 m^3/kmol; v = R T/p + B = 24.226081
+    // m^3/kmol
     EXPECT_EQ(r.co1.text, "EOS nur für die V-Phase anwendbar!");
     EXPECT_EQ(r.co2.text, " Virialkoeff. B = -0.717449  m^3/kmol");
     EXPECT_EQ(r.report, "Dichte           rho/ (kg/m^3)  =                     2.399158\r\n"
@@ -111,7 +112,8 @@ TEST(PointTPReport, IdealGasHasACoefficientOfZero) {
     Calculation c(eosIdealGas);
     const PointResult r = c.At(300, 100);
     EXPECT_EQ(r.co2.text, " Virialkoeff. B = 0  m^3/kmol");
-    EXPECT_NE(r.report.find("Volumen          v/ (m^3/kmol)  =                     24.94353\r\n"), std::string::npos);
+    EXPECT_NE(r.report.find("Volumen          v/ (m^3/kmol)  =                     24.94353\r\n"),
+              std::string::npos);
     EXPECT_NE(r.report.find("  B = 0 m^3/kmol\r\n"), std::string::npos);
 }
 

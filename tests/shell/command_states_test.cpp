@@ -15,8 +15,12 @@ struct Commands : testing::Test {
     CommandStates states;
 
     void Enter(SessionEvent event) { states.Apply(event, PhaseFacts{substance, selection, batchRowCount}); }
-    bool Allowed(std::string_view name, int index = noIndex) { return states.Allowed(FindCommand(name, index)); }
-    bool Enabled(std::string_view name, int index = noIndex) { return states.Enabled(FindCommand(name, index)); }
+    bool Allowed(std::string_view name, int index = noIndex) {
+        return states.Allowed(FindCommand(name, index));
+    }
+    bool Enabled(std::string_view name, int index = noIndex) {
+        return states.Enabled(FindCommand(name, index));
+    }
 
     void Begin() {
         Enter(SessionEvent::ModelStateReset);
@@ -50,9 +54,9 @@ TEST_F(Commands, AtStartOnlyTheDatabaseIsOpen) {
     EXPECT_TRUE(Enabled("mnuData_OpenBank"));
     EXPECT_TRUE(Enabled("mnuData_Status"));
     EXPECT_TRUE(Enabled("mnuData_Exit"));
-    for (const char* name : {"mnuStoff", "mnuModel", "mnu2D", "mnu3D", "mnuCalcMain", "mnuOptions", "mnuFitting",
-                             "mnuData_SaveProject", "mnuData_BatchInput", "mnuData_BatchEdit",
-                             "mnuData_EditStoffdaten"})
+    for (const char* name :
+         {"mnuStoff", "mnuModel", "mnu2D", "mnu3D", "mnuCalcMain", "mnuOptions", "mnuFitting",
+          "mnuData_SaveProject", "mnuData_BatchInput", "mnuData_BatchEdit", "mnuData_EditStoffdaten"})
         EXPECT_FALSE(Allowed(name)) << name;
     EXPECT_FALSE(states.ToolbarAllowed(7));
     EXPECT_FALSE(states.ToolbarAllowed(15));
@@ -178,7 +182,8 @@ TEST_F(Commands, BatchModeRenamesAndCloses) {
     EXPECT_FALSE(Allowed("mnuCalc", 15));
     EXPECT_FALSE(Allowed("mnuCalc", 16));
     EXPECT_TRUE(states.Visible(FindCommand("mnuCalc", 1)));
-    EXPECT_EQ(states.Text(FindCommand("mnuCalc", 1)), "Spalten T, rho(L) => p, Zustand L/V     + thermod. Fu.");
+    EXPECT_EQ(states.Text(FindCommand("mnuCalc", 1)),
+              "Spalten T, rho(L) => p, Zustand L/V     + thermod. Fu.");
     Enter(SessionEvent::BatchModeOff);
     EXPECT_FALSE(states.Visible(FindCommand("mnuCalc", 1)));
     EXPECT_EQ(states.Text(FindCommand("mnuCalc", 2)), "T, p         => rho, Zustand L/V  + thermod. Fu.");

@@ -127,7 +127,8 @@ TEST_F(Road, AsksAboutLoadedSeriesWhenTheSubstanceChanges) {
     EXPECT_TRUE(AcceptSubstance(session, 1));
     ASSERT_EQ(dialogs.asked.size(), 1U);
     EXPECT_EQ(dialogs.asked[0].title, "STAPELDATEN");
-    EXPECT_EQ(dialogs.asked[0].text, "Neuer Stoff wurde gewählt.\nGeladene exper. Daten (Stapeldaten) jetzt löschen?");
+    EXPECT_EQ(dialogs.asked[0].text,
+              "Neuer Stoff wurde gewählt.\nGeladene exper. Daten (Stapeldaten) jetzt löschen?");
     EXPECT_EQ(session.state.batchRowCount, 2);
     EXPECT_TRUE(AcceptSubstance(session, 2));
     EXPECT_EQ(session.state.batchRowCount, 0);

@@ -15,8 +15,8 @@ namespace orva::test {
 
 using FieldValue = std::pair<std::string_view, float>;
 
-inline DatabaseRecord SampleRecord(std::string formula, std::string name, std::string cas, std::int16_t number,
-                                   const std::vector<FieldValue>& fields) {
+inline DatabaseRecord SampleRecord(std::string formula, std::string name, std::string cas,
+                                   std::int16_t number, const std::vector<FieldValue>& fields) {
     DatabaseRecord record;
     record.formula = std::move(formula);
     record.nameEnglish = record.nameGerman = std::move(name);
@@ -27,16 +27,30 @@ inline DatabaseRecord SampleRecord(std::string formula, std::string name, std::s
     return record;
 }
 
-// Three substances: n-butane with Wagner and liquid-density blocks (constants after Buecker, Wagner 2006, rounded;
-// Wagner coefficients after Reid, Prausnitz, Poling 1987), one without acentric factor, one without critical data.
+// Three substances: n-butane with Wagner and liquid-density blocks (constants after Buecker, Wagner 2006,
+// rounded; Wagner coefficients after Reid, Prausnitz, Poling 1987), one without acentric factor, one without
+// critical data.
 inline std::vector<DatabaseRecord> SampleRecords() {
     return {
         SampleRecord("C4H10", "n-Butan; Butan", "106-97-8", 1,
-                     {{"molarMass", 58.1222F}, {"Tc", 425.125F},    {"pc", 3796},        {"rhoc", 228},
-                      {"omega", 0.2F},         {"Tb", 272.66F},     {"Ttrip", 134.895F}, {"ptrip", 0.00066566F},
-                      {"wagner.w1", -6.88709F}, {"wagner.w2", 1.15157F}, {"wagner.w3", -1.99873F},
-                      {"wagner.w4", 3},        {"wagner.w5", -3.13003F}, {"wagner.w6", 6},
-                      {"wagner.w9", 425.2F},   {"wagner.w10", 3800}, {"wagner.Tlo", 170}, {"wagner.Thi", 425}}),
+                     {{"molarMass", 58.1222F},
+                      {"Tc", 425.125F},
+                      {"pc", 3796},
+                      {"rhoc", 228},
+                      {"omega", 0.2F},
+                      {"Tb", 272.66F},
+                      {"Ttrip", 134.895F},
+                      {"ptrip", 0.00066566F},
+                      {"wagner.w1", -6.88709F},
+                      {"wagner.w2", 1.15157F},
+                      {"wagner.w3", -1.99873F},
+                      {"wagner.w4", 3},
+                      {"wagner.w5", -3.13003F},
+                      {"wagner.w6", 6},
+                      {"wagner.w9", 425.2F},
+                      {"wagner.w10", 3800},
+                      {"wagner.Tlo", 170},
+                      {"wagner.Thi", 425}}),
         SampleRecord("Ar", "Argon ohne Omega", "7440-37-1", 2,
                      {{"molarMass", 39.948F}, {"Tc", 150.687F}, {"pc", 4863}, {"Tb", 87.302F}}),
         SampleRecord("X", "Stoff ohne kritische Daten", "50-00-0", 3, {{"molarMass", 30}, {"Tb", 254}}),

@@ -11,11 +11,11 @@ namespace orva::test {
 
 // A user who answers from a script and remembers every box.
 class ScriptedDialogs : public Dialogs {
-  public:
+public:
     std::vector<Message> shown;
     std::vector<Question> asked;
     std::vector<FileRequest> fileRequests;
-    std::deque<bool> answers;                           // No when the script runs out
+    std::deque<bool> answers;                            // No when the script runs out
     std::deque<std::optional<std::string>> files, texts; // a cancel when the script runs out
 
     void Show(const Message& message) override { shown.push_back(message); }
@@ -34,9 +34,8 @@ class ScriptedDialogs : public Dialogs {
         return Next(texts, std::optional<std::string>());
     }
 
-  private:
-    template<typename T>
-    static T Next(std::deque<T>& script, T otherwise) {
+private:
+    template<typename T> static T Next(std::deque<T>& script, T otherwise) {
         if (script.empty())
             return otherwise;
         T answer = script.front();

@@ -11,7 +11,7 @@ namespace orva::test {
 
 // A machine with an installation folder of its own, which goes away with it.
 class TestMachine : public Machine {
-  public:
+public:
     explicit TestMachine(bool comma = false) : decimalComma(comma) {
         std::random_device random;
         folder = std::filesystem::temp_directory_path() / ("orva-test-" + std::to_string(random()));
@@ -28,7 +28,7 @@ class TestMachine : public Machine {
     std::filesystem::path WritableFolder() const override { return folder; }
     bool DecimalComma() const override { return decimalComma; }
 
-  private:
+private:
     std::filesystem::path folder;
     bool decimalComma;
 };
