@@ -12,7 +12,7 @@ namespace orva {
 namespace {
 
 class DatabaseFile : public testing::Test {
-  protected:
+protected:
     test::TestMachine machine;
     Database database;
 
@@ -60,7 +60,8 @@ TEST_F(DatabaseFile, TakesTheEnglishNamesWhenAsked) {
 }
 
 TEST_F(DatabaseFile, CarriesUmlauts) {
-    Write("X.Q05", test::DatabaseBytes({test::SampleRecord("C2H4O2", "Essigsäure; Äthansäure", "64-19-7", 1, {})}));
+    Write("X.Q05",
+          test::DatabaseBytes({test::SampleRecord("C2H4O2", "Essigsäure; Äthansäure", "64-19-7", 1, {})}));
     ASSERT_TRUE(Load("X.Q05").Good());
     EXPECT_EQ(database.List().At(1).name, FixedField("Essigsäure; Äthansäure", 40));
 }
@@ -77,7 +78,9 @@ TEST_F(DatabaseFile, AMissingFileIsNotFound) {
     EXPECT_FALSE(database.IsOpen());
 }
 
-TEST_F(DatabaseFile, AnEmptyFileIsNotFound) { EXPECT_TRUE(Load(Write("X.Q05", "")).notFound); }
+TEST_F(DatabaseFile, AnEmptyFileIsNotFound) {
+    EXPECT_TRUE(Load(Write("X.Q05", "")).notFound);
+}
 
 TEST_F(DatabaseFile, ACountBelowOneIsNotFoundAndNoEmptyList) {
     test::WriteSampleDatabase(machine.InstallationFolder());
@@ -107,8 +110,8 @@ TEST_F(DatabaseFile, AFileCutAtAnyPlaceIsAReadErrorAndTheOldListStays) {
     const std::string bytes = test::DatabaseBytes(test::SampleRecords());
     test::WriteSampleDatabase(machine.InstallationFolder());
     ASSERT_TRUE(Load("ORVA.Q05").Good());
-    for (const std::size_t size : {std::size_t{1}, std::size_t{683}, std::size_t{684}, std::size_t{1000},
-                                   4 * recordSize - 1}) {
+    for (const std::size_t size :
+         {std::size_t{1}, std::size_t{683}, std::size_t{684}, std::size_t{1000}, 4 * recordSize - 1}) {
         const DatabaseLoadResult result = Load(Write("CUT.Q05", std::string_view(bytes).substr(0, size)));
         EXPECT_TRUE(result.readError) << size;
         EXPECT_FALSE(result.notFound) << size;
@@ -149,7 +152,8 @@ TEST_F(DatabaseFile, StaysUsableWhenTheFileShrinksUnderneath) {
 
 TEST_F(DatabaseFile, AnotherFileTakesThePlaceOfTheFirst) {
     ASSERT_TRUE(Load(test::WriteSampleDatabase(machine.InstallationFolder())).Good());
-    const auto path = Write("X.Q05", test::DatabaseBytes({test::SampleRecord("He", "Helium", "7440-59-7", 77, {})}));
+    const auto path =
+        Write("X.Q05", test::DatabaseBytes({test::SampleRecord("He", "Helium", "7440-59-7", 77, {})}));
     ASSERT_TRUE(Load(path).Good());
     ASSERT_EQ(database.List().entries.size(), 1U);
     EXPECT_EQ(database.ReadRecord(1)->number, 77);

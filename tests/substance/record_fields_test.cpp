@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 #include <string>
 
@@ -15,8 +16,8 @@ const std::map<int, std::vector<std::string>> expectedRuns = {
     {0, {"molarMass"}},
     {6, {"Tc", "pc", "rhoc", "omega", "Tb", "extra1", "rhoLb"}},
     {13,
-     {"rhoLiquid.r1", "rhoLiquid.r2", "rhoLiquid.r3", "rhoLiquid.r4", "rhoLiquid.r5", "rhoLiquid.r6", "rhoLiquid.r7",
-      "rhoLiquid.Tcr", "rhoLiquid.Tlo", "rhoLiquid.Thi"}},
+     {"rhoLiquid.r1", "rhoLiquid.r2", "rhoLiquid.r3", "rhoLiquid.r4", "rhoLiquid.r5", "rhoLiquid.r6",
+      "rhoLiquid.r7", "rhoLiquid.Tcr", "rhoLiquid.Tlo", "rhoLiquid.Thi"}},
     {23,
      {"frostKalkwarf.cExtra", "frostKalkwarf.c1", "frostKalkwarf.c2", "frostKalkwarf.c3", "frostKalkwarf.c4",
       "frostKalkwarf.c5", "frostKalkwarf.c6", "frostKalkwarf.c7", "frostKalkwarf.c8", "frostKalkwarf.c9",
@@ -24,8 +25,8 @@ const std::map<int, std::vector<std::string>> expectedRuns = {
     {36, {"antoineLow.A", "antoineLow.B", "antoineLow.C", "antoineLow.Tlo", "antoineLow.Thi"}},
     {42, {"antoineHigh.A", "antoineHigh.B", "antoineHigh.C", "antoineHigh.Tlo", "antoineHigh.Thi"}},
     {47,
-     {"wagner.wExtra", "wagner.w1", "wagner.w2", "wagner.w3", "wagner.w4", "wagner.w5", "wagner.w6", "wagner.w7",
-      "wagner.w8", "wagner.w9", "wagner.w10", "wagner.Tlo", "wagner.Thi"}},
+     {"wagner.wExtra", "wagner.w1", "wagner.w2", "wagner.w3", "wagner.w4", "wagner.w5", "wagner.w6",
+      "wagner.w7", "wagner.w8", "wagner.w9", "wagner.w10", "wagner.Tlo", "wagner.Thi"}},
     {61,
      {"cpPolynomial.C0", "cpPolynomial.C1", "cpPolynomial.C2", "cpPolynomial.C3", "cpPolynomial.C4",
       "cpPolynomial.Tlo", "cpPolynomial.Thi"}},
@@ -33,15 +34,17 @@ const std::map<int, std::vector<std::string>> expectedRuns = {
      {"cpSinhCosh.q0", "cpSinhCosh.q1", "cpSinhCosh.q2", "cpSinhCosh.q3", "cpSinhCosh.q4", "cpSinhCosh.Tlo",
       "cpSinhCosh.Thi"}},
     {77,
-     {"cpLiquid.C0", "cpLiquid.C1", "cpLiquid.C2", "cpLiquid.C3", "cpLiquid.C4", "cpLiquid.Tlo", "cpLiquid.Thi"}},
+     {"cpLiquid.C0", "cpLiquid.C1", "cpLiquid.C2", "cpLiquid.C3", "cpLiquid.C4", "cpLiquid.Tlo",
+      "cpLiquid.Thi"}},
     {85, {"hFormation"}},
     {87, {"gFormation", "gFormationAlt", "sConventional"}},
     {91, {"Ttrip", "ptrip"}},
     {94, {"extra2"}},
     {96,
-     {"hVapFunction.A", "hVapFunction.B", "hVapFunction.C", "hVapFunction.D", "hVapFunction.E", "hVapFunction.F",
-      "hVapFunction.Tcr", "hVapFunction.Tlo", "hVapFunction.Thi", "hVapRef", "TVapRef"}},
-    {110, {"cpSolid.C0", "cpSolid.C1", "cpSolid.C2", "cpSolid.C3", "cpSolid.C4", "cpSolid.Tlo", "cpSolid.Thi"}},
+     {"hVapFunction.A", "hVapFunction.B", "hVapFunction.C", "hVapFunction.D", "hVapFunction.E",
+      "hVapFunction.F", "hVapFunction.Tcr", "hVapFunction.Tlo", "hVapFunction.Thi", "hVapRef", "TVapRef"}},
+    {110,
+     {"cpSolid.C0", "cpSolid.C1", "cpSolid.C2", "cpSolid.C3", "cpSolid.C4", "cpSolid.Tlo", "cpSolid.Thi"}},
     {118, {"rhoSolid.s1", "rhoSolid.s2", "rhoSolid.s3", "rhoSolid.s4", "rhoSolid.Tlo", "rhoSolid.Thi"}},
 };
 

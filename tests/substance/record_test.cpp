@@ -25,9 +25,9 @@ std::string HandMadeBytes() {
     put(145, std::string("\x80\x81\xFF", 3));
     put(186, std::string("\x34\x12", 2)); // 0x1234, low byte first
     put(188, std::string(496, '\0'));
-    put(188, std::string("\x00\x00\x80\x3F", 4));              // 1
-    put(188 + 4 * 6, std::string("\x00\x00\x20\xC0", 4));      // -2.5
-    put(188 + 4 * 123, std::string("\x00\x80\xBB\x43", 4));    // 375
+    put(188, std::string("\x00\x00\x80\x3F", 4));           // 1
+    put(188 + 4 * 6, std::string("\x00\x00\x20\xC0", 4));   // -2.5
+    put(188 + 4 * 123, std::string("\x00\x80\xBB\x43", 4)); // 375
     return bytes;
 }
 
@@ -46,7 +46,9 @@ TEST(Record, TakesEveryPartFromItsOffset) {
     EXPECT_EQ(record.values[7], 0.0F);
 }
 
-TEST(Record, EncodesToTheSameBytes) { EXPECT_EQ(EncodeRecord(DecodeRecord(HandMadeBytes())), HandMadeBytes()); }
+TEST(Record, EncodesToTheSameBytes) {
+    EXPECT_EQ(EncodeRecord(DecodeRecord(HandMadeBytes())), HandMadeBytes());
+}
 
 TEST(Record, ReadsANegativeNumber) {
     std::string bytes = HandMadeBytes();

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+#include "database/refusal.h"
+
+namespace orva {
+
+using SourceFiles = std::map<std::string, std::string, std::less<>>; // name -> bytes
+
+struct DatabaseBuild {
+    Refusals refusals;       // when there are any, nothing else is filled
+    std::string database;    // bytes of ORVA.Q05
+    std::string synonymFile; // bytes of SYNOM.TXT
+    int substances = 0;
+    int names = 0; // groups of the synonym file
+};
+
+// Checks and compiles the tables. Survives any bytes.
+DatabaseBuild BuildDatabase(const SourceFiles& files);
+
+// The files of a folder that the build looks at; those that cannot be read are left out.
+SourceFiles ReadSourceFiles(const std::filesystem::path& folder);
+
+} // namespace orva
