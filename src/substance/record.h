@@ -9,8 +9,9 @@
 
 namespace orva {
 
-// The database file: records of 684 bytes without framing, little-endian, texts in Windows-1252, blank-padded.
-// Record 1 is a header, whose number is the count of substances; records 2 and up are substances.
+// The database file: records of 684 bytes without framing, little-endian, texts in Windows-1252,
+// blank-padded. Record 1 is a header, whose number is the count of substances; records 2 and up are
+// substances.
 inline constexpr std::size_t recordSize = 684;
 inline constexpr std::size_t recordValueCount = 124;
 

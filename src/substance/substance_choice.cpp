@@ -19,7 +19,7 @@ constexpr std::size_t largestNumberLength = 4;
 constexpr int smallestNumber = 1, largestNumber = 1999;
 
 std::string RowText(int index, const SubstanceListEntry& entry) {
-    return PadLeft(std::to_string(index), 5) + FixedField(entry.formula, 12) + " "
+    return FixedField(PadLeft(std::to_string(index), 4), 5) + FixedField(entry.formula, 12) + " "
            + FixedField(entry.name, 40);
 }
 

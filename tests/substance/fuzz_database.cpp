@@ -127,9 +127,8 @@ std::string CheckFile(const std::filesystem::path& folder, const std::string& by
         return "a failed load changed the database in use";
     if (result.Good() && (count < 1 || bytes.size() < (count + 1) * recordSize))
         return "a list that the file cannot hold";
-    for (std::size_t index = 0; index <= count + 1; ++index) {
-        if (const std::string fault = CheckRecord(database, static_cast<int>(index));
-            index > 0 && !fault.empty())
+    for (std::size_t index = 1; index <= count + 1; ++index) {
+        if (const std::string fault = CheckRecord(database, static_cast<int>(index)); !fault.empty())
             return fault;
     }
     return "";

@@ -52,8 +52,8 @@ TEST_F(SubstanceWindow, CarriesItsTitles) {
 
 TEST_F(SubstanceWindow, ListsIndexFormulaAndName) {
     ASSERT_EQ(window.StoffListe.size(), 4U);
-    EXPECT_EQ(window.StoffListe[0], "    1C2H6O        Ethanol; Weingeist                      ");
-    EXPECT_EQ(window.StoffListe[2], "    3C2H4O2       Essigsäure                              ");
+    EXPECT_EQ(window.StoffListe[0], "   1 C2H6O        Ethanol; Weingeist                      ");
+    EXPECT_EQ(window.StoffListe[2], "   3 C2H4O2       Essigsäure                              ");
 }
 
 TEST_F(SubstanceWindow, OpensWithTheFirstRow) {
