@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "diagrams/curve_run.h"
+#include "state/diagram_ranges.h"
+
+namespace orva {
+
+// What an axis shows.
+enum class Quantity : std::uint8_t { None, Temperature, Pressure, Volume };
+
+struct AxisRow {
+    Quantity quantity;
+    float DiagramRanges::*low; // where the window comes from
+    float DiagramRanges::*high;
+    std::string_view reducedTitle;
+};
+
+// All that is to be said of one diagram type. A type that only a command of the diagram window sets, for one
+// curve, has no menu command.
+struct DiagramRow {
+    std::int16_t type;
+    std::string_view command; // name of the menu array
+    int index;                // within it
+    AxisRow x, y;
+    std::string_view title; // "~" stands for "molare " or "spezifische "
+    std::int16_t curveKind;
+    std::string_view curveCode;
+    bool vapourPressureTitle;      // with vapour-pressure priority the heading names that equation
+    void (*family)(CurveRun&);     // fills the points
+    TieLine (*tieLine)(CurveRun&); // ends of the tie line, or none
+};
+
+std::span<const DiagramRow> Catalogue();
+
+// The row of a type; null if there is none.
+const DiagramRow* FindDiagram(int type);
+
+// The row behind a menu entry; null if it is not built.
+const DiagramRow* FindDiagram(std::string_view command, int index);
+
+} // namespace orva

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "diagrams/catalogue.h"
+#include "diagrams/diagram_records.h"
+#include "diagrams/diagram_spec.h"
+
+namespace orva {
+
+// Writes the default window of the diagram type into the spec. Nothing changes for a type that is not built.
+void ApplyRanges(const DiagramRanges& ranges, DiagramSpec& spec);
+
+// Brings curve parameters, units, window, axis titles and heading up to date for spec.type. The first diagram
+// after a change of the substance starts at the critical temperature.
+void SetUpDiagram(DiagramRecords& records, DiagramSpec& spec);
+
+// Writes type, curveKind and curveCode of a row into the spec and sets the diagram up.
+void SelectDiagram(DiagramRecords& records, const DiagramRow& row, DiagramSpec& spec);
+
+// "v / (m^3/kmol)": quantity and unit of an axis that is not reduced.
+std::string AxisTitle(Quantity quantity, const Options& options);
+
+} // namespace orva
