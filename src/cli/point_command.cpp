@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calc/point_input.h"
+#include "cli/commands.h"
+#include "shell/road.h"
+
+namespace orva {
+
+namespace {
+
+Json RecordJson(const ResultRecord& record) {
+    return JsonObject("phase", record.phase, "T", double(record.T), "p", double(record.p), "v",
+                      double(record.v), "Tcalc", double(record.Tcalc), "pcalc", double(record.pcalc), "rhoV",
+                      double(record.rhoV), "rhoL", double(record.rhoL), "hLV", double(record.hLV), "deriv",
+                      NumbersJson(record.deriv), "resid", NumbersJson(record.resid), "coeff",
+                      NumbersJson(record.coeff), "mech", NumbersJson(record.mech), "h", double(record.h), "s",
+                      double(record.s), "g", double(record.g), "eH", double(record.eH), "eU",
+                      double(record.eU));
+}
+
+Json LabelsJson(const PointResult& result) {
+    return JsonObject("par1", result.par1.text, "par2", result.par2.text, "co1", result.co1.text, "co2",
+                      result.co2.text);
+}
+
+Json ResultJson(const PointResult& result, const std::vector<Message>& messages) {
+    return JsonObject("kind", result.kind, "failed", result.failed, "note", result.note, "hasL", result.hasL,
+                      "hasV", result.hasV, "rootIndex", result.rootIndex, "phaseVerdict", result.phaseVerdict,
+                      "liquidPercent", double(result.liquidPercent), "p", result.p, "T", result.T, "results",
+                      NumbersJson(result.results), "record", RecordJson(result.record), "roots",
+                      NumbersJson(result.roots), "labels", LabelsJson(result), "report", result.report,
+                      "messages", MessagesJson(messages));
+}
+
+// What the window shows in red, in one line.
+std::string FailureText(const PointResult& result) {
+    for (const ResultLabel* label : {&result.par1, &result.par2, &result.co1, &result.co2})
+        if (label->colour == TextColour::Red)
+            return OneLine(label->text);
+    return result.report.empty() ? "no result" : OneLine(result.report);
+}
+
+// The four labels, a line each, and the report.
+std::string ResultText(const PointResult& result) {
+    std::string text;
+    for (const ResultLabel* label : {&result.par1, &result.par2, &result.co1, &result.co2})
+        text += label->text + '\n';
+    for (const char c : result.report)
+        if (c != '\r')
+            text += c;
+    return text;
+}
+
+void TakeGivenValues(const PointOptions& point, BatchRow& row) {
+    row = {};
+    row.T = point.T.value_or(0);
+    row.p = point.p.value_or(0);
+    row.rhoV = static_cast<float>(point.rho.value_or(0));
+    row.rhoL = static_cast<float>(point.rhoLiquid.value_or(0));
+}
+
+} // namespace
+
+Answer PointCommand(Workspace& workspace, const Request& request) {
+    if (const std::optional<Failure> failure = workspace.Prepare(request.context))
+        return AnswerFor(*failure);
+    Session& session = workspace.Records();
+    if (!DispatchCalculation(session, request.point.kind).showResult)
+        return AnswerFor(
+            FailureFrom(exitCalculationFailed, workspace.Messages(), "the calculation is not possible"));
+    TakeGivenValues(request.point, session.batch.rows.front());
+    CalculationContext context = session.Calculation();
+    const PointResult result =
+        CalcBatch(context, session.calculation.CalcKind, session.calculation.CurrentDataSet);
+
+    Answer answer;
+    answer.messages = workspace.Messages();
+    answer.messages.insert(answer.messages.end(), result.messages.begin(), result.messages.end());
+    if (request.textFormat)
+        answer.text = ResultText(result);
+    else
+        answer.json = ResultJson(result, answer.messages);
+    if (result.failed) {
+        answer.exitStatus = exitCalculationFailed;
+        answer.error = "the calculation failed: " + FailureText(result);
+    }
+    return answer;
+}
+
+} // namespace orva
