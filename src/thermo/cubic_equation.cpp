@@ -71,13 +71,16 @@ bool NewtonRoot(const CubicPolynomial& cubic, double& v) {
     return false;
 }
 
-// The two other roots by deflation, sorted in. One root remains where the others are complex.
+// The two other roots by deflation, sorted in. One root remains where the others are complex, none is counted
+// after an overflow.
 int CompleteRoots(const CubicPolynomial& cubic, double root, std::array<double, 3>& roots) {
     const double e1 = root + cubic.c2;
     const double e0 = e1 * root + cubic.c1;
     const double h = -0.5 * e1;
     const double disc = h * h - e0;
     roots[0] = root;
+    if (!std::isfinite(disc))
+        return 0;
     if (disc < 0)
         return 1;
     const double w = std::sqrt(disc);
@@ -157,8 +160,9 @@ CubicSolution SolveEosCubic(SubstanceModel& model, double T, double p) {
         if (!NewtonRoot(cubic, root))
             return {0, true};
     }
-    if (CompleteRoots(cubic, root, roots) == 1)
-        return {1, false};
+    const int count = CompleteRoots(cubic, root, roots);
+    if (count < 3)
+        return {count, count == 0};
     if (roots[0] < eos.B && roots[1] < eos.B) {
         roots[0] = roots[2];
         return {1, false};

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "thermo/cubic_equation.h"
+#include "thermo/saturation_bracket.h"
 #include "thermo/vapour_pressure.h"
 
 namespace orva {
@@ -254,16 +255,9 @@ SaturationResult ScanTemperature(SubstanceModel& model, double p) {
     return Failure(result);
 }
 
-} // namespace
-
-SaturationResult EosSaturationPressure(SubstanceModel& model, double T) {
-    const double Tc = model.substance.Tc;
+SaturationResult SearchPressure(SubstanceModel& model, double T) {
     const double pc = model.substance.pc;
-    if (T == Tc)
-        return CriticalShortcut(model, pc);
     SetEosCoefficients(model, T);
-    if (!(T < Tc) || model.selection.eos == eosNotChosen || model.selection.nonCubic)
-        return Failure();
     SaturationResult result;
     SecantState s;
     s.value = StartPressure(model, T);
@@ -296,13 +290,28 @@ SaturationResult EosSaturationPressure(SubstanceModel& model, double T) {
     return Failure(result);
 }
 
+} // namespace
+
+SaturationResult EosSaturationPressure(SubstanceModel& model, double T) {
+    if (T == model.substance.Tc)
+        return CriticalShortcut(model, model.substance.pc);
+    if (!(T < model.substance.Tc) || model.selection.eos == eosNotChosen || model.selection.nonCubic) {
+        SetEosCoefficients(model, T);
+        return Failure();
+    }
+    const SaturationResult found = SearchPressure(model, T);
+    return found.failed ? BracketedSaturationPressure(model, T) : found;
+}
+
 SaturationResult EosSaturationTemperature(SubstanceModel& model, double p, double Tstart) {
     const double pc = model.substance.pc;
     if (p == pc)
         return CriticalShortcut(model, model.substance.Tc);
     if (!(p > 0 && p < pc) || model.selection.eos == eosNotChosen || model.selection.nonCubic)
         return Failure();
-    return p / pc < scanBelow ? ScanTemperature(model, p) : SearchTemperature(model, p, Tstart);
+    const SaturationResult found =
+        p / pc < scanBelow ? ScanTemperature(model, p) : SearchTemperature(model, p, Tstart);
+    return found.failed ? BracketedSaturationTemperature(model, p) : found;
 }
 
 } // namespace orva

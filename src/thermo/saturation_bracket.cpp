@@ -58,7 +58,7 @@ struct VolumeCubic {
     double VapourRoot() const { return NewtonFrom(q); }
 };
 
-// Volume roots by the extrema of the cubic; 1 root is marked as liquid where it lies left of the inflection.
+// Volume roots by the extrema of the cubic; a single root is liquid where it lies left of the inflection.
 // Deflation would lose a liquid volume beside a vapour volume that is larger by many orders.
 struct TrialVolumes {
     std::array<double, 3> v{};
@@ -71,7 +71,8 @@ TrialVolumes SolveVolumes(const EosParameters& eos, double T, double p) {
     const double inflection = -cubic.c2 / 3;
     const double disc = cubic.c2 * cubic.c2 - 3 * cubic.c1;
     TrialVolumes volumes;
-    volumes.liquidLike = cubic.At(inflection) > 0;
+    const bool left = cubic.At(inflection) > 0;
+    volumes.liquidLike = left || inflection <= eos.B; // in the second case RT/p is smaller than the co-volume
     if (disc > 0) {
         // Both extrema are positive where there are three volumes; the smaller one follows from their
         // product, since it can be smaller by many orders.
@@ -80,7 +81,7 @@ TrialVolumes SolveVolumes(const EosParameters& eos, double T, double p) {
         volumes.three = cubic.At(maximum) > 0 && cubic.At(minimum) < 0;
     }
     if (!volumes.three) {
-        volumes.v[0] = volumes.liquidLike ? cubic.LiquidRoot() : cubic.VapourRoot();
+        volumes.v[0] = left ? cubic.LiquidRoot() : cubic.VapourRoot();
         volumes.v[2] = volumes.v[0];
         return volumes;
     }
@@ -113,12 +114,19 @@ SaturationResult Solution(double value, const Trial& trial) {
 
 const SaturationResult notFound{0, 0, 0, 0, true};
 
+// Without attraction and co-volume there is no second phase.
+bool HasConstants(const EosParameters& eos) {
+    return eos.A > 0 && eos.B > 0;
+}
+
 } // namespace
 
 SaturationResult BracketedSaturationPressure(SubstanceModel& model, double T) {
-    if (model.selection.nonCubic || !(T > 0 && T < model.substance.Tc))
+    if (model.selection.nonCubic || !(T > 0 && T < model.substance.Tc) || !std::isfinite(model.substance.pc))
         return notFound;
     SetEosCoefficients(model, T);
+    if (!HasConstants(model.eos))
+        return notFound;
     double high = model.substance.pc;
     double low = high * pressureStride;
     for (; low > lowestPressure; low *= pressureStride) {
@@ -141,12 +149,15 @@ SaturationResult BracketedSaturationPressure(SubstanceModel& model, double T) {
 
 SaturationResult BracketedSaturationTemperature(SubstanceModel& model, double p) {
     const double Tc = model.substance.Tc;
-    if (model.selection.nonCubic || !(p > 0 && p < model.substance.pc))
+    if (model.selection.nonCubic || !(p > 0 && p < model.substance.pc) || !std::isfinite(Tc))
         return notFound;
     const auto judgeAt = [&](double T) {
         SetEosCoefficients(model, T);
         return Judge(model, T, p);
     };
+    SetEosCoefficients(model, Tc);
+    if (!HasConstants(model.eos))
+        return notFound;
     double high = Tc;
     double low = Tc * temperatureStride;
     for (; low > lowestTemperature * Tc; low *= temperatureStride) {

@@ -148,7 +148,7 @@ double Clapeyron(SubstanceModel& model, int way, int equation, const SaturatedDe
         const DensityResult density = LiquidDensity(substance, static_cast<float>(result.T));
         Keep(LiquidDensityWarning(density), result);
         rhoL = density.failed ? 0 : density.rho;
-    } else {
+    } else if (!Missing(reference.T) && !Missing(reference.rhoL)) {
         rhoL = DiameterLiquidDensity(result.T, substance.Tc, substance.rhoc, rhoV, reference.T,
                                      reference.rhoV, reference.rhoL);
     }

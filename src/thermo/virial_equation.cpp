@@ -56,7 +56,7 @@ double VirialCoefficientB(SubstanceModel& model, int eosType, double T) {
     case virialSoaveRedlichKwong:
     case virialPengRobinson:
         SetEosCoefficients(model, T);
-        return eos.B - eos.A / (gasConstant * T);
+        return FiniteOrZero(eos.B - eos.A / (gasConstant * T));
     case virialByHand:
         return FiniteOrZero(eos.b0 - eos.nB / std::pow(T, eos.nF));
     case virialPitzerCurl:

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <cmath>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "substance/model_choice_fixture.h"
 #include "support/scripted_dialogs.h"

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every mask of the reports, windows and files, each with a value that fills it, one that does not, and zero.
+#include <gtest/gtest.h>
+
 #include "text/number_format.h"
 
 namespace orva {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Random input. The generators have fixed seeds, so that a failure comes again.
+#include <gtest/gtest.h>
+
 #include "text/code_page.h"
 #include "text/columns.h"
 #include "text/number_format.h"

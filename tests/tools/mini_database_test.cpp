@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <initializer_list>
 
 #include "tools/mini_tables.h"
