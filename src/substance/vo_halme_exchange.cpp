@@ -144,8 +144,8 @@ std::string VoHalmeRequestText(const SubstanceModel& model, int eosType) {
     line(std::string("\"").append(FixedField(s.cas, casWidth)).append("\""));
     line(Joined({std::to_string(flags.f1), "1", std::to_string(flags.f2)}));
     line(NumberLine({s.molarMass, s.Tb, s.Tc, s.pc, s.rhoc, static_cast<float>(s.omega)}));
-    line(NumberLine({r.r1, r.r2, r.r3, r.r4, r.r5, r.r6, r.r7, static_cast<double>(r.Tlo),
-                     static_cast<double>(r.Thi)}));
+    line(NumberLine(
+        {r.r1, r.r2, r.r3, r.r4, r.r5, r.r6, r.r7, static_cast<double>(r.Tlo), static_cast<double>(r.Thi)}));
     line(EquationText(s, code));
     return text.append(lineEnd);
 }

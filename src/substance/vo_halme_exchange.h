@@ -17,8 +17,8 @@ namespace orva {
 // workbench: it reads the substance from vopar.tmp and leaves the constants in PARAM_VO.DAT (row 7) or
 // PARA_VO2.DAT (row 8). The exchange files lie in the folder for what the program writes.
 
-// Text of the request: code of the row, CAS number, flags of the vapour-pressure equation in force, constants,
-// liquid density, parameters of the vapour-pressure equation. Six lines with "\r\n".
+// Text of the request: code of the row, CAS number, flags of the vapour-pressure equation in force,
+// constants, liquid density, parameters of the vapour-pressure equation. Six lines with "\r\n".
 std::string VoHalmeRequestText(const SubstanceModel& model, int eosType);
 
 // Name of the result file of a row.
