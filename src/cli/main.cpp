@@ -6,6 +6,7 @@
 #include "cli/program.h"
 #include "cli/run_command.h"
 #include "platform/program_machine.h"
+#include "platform/qt_program_runner.h"
 
 namespace {
 
@@ -39,7 +40,8 @@ int main(int argc, char** argv) {
         return orva::exitGood;
     }
     const orva::ProgramMachine machine(argc, argv);
-    orva::Program program(machine);
+    orva::QtProgramRunner runner;
+    orva::Program program(machine, runner);
     if (line.request.command == orva::Command::Run)
         return orva::RunCommand(program, line.request);
     return Print(program.Execute(line.request), line.request.textFormat);

@@ -73,7 +73,7 @@ std::optional<Failure> ChoosePriority(ModelChoice& window, const ModelOptions& o
 } // namespace
 
 std::optional<Failure> AcceptModelOptions(Session& session, const ModelOptions& options) {
-    ModelChoice window(session.model, session.names);
+    ModelChoice window = MakeModelChoice(session);
     window.Open();
     if (std::optional<Failure> failure = ChooseEos(window, session.model, options))
         return failure;

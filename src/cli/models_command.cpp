@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
+#include "shell/road.h"
 #include "substance/model_choice.h"
 #include "text/columns.h"
 
@@ -47,7 +48,7 @@ Answer ModelsCommand(Workspace& workspace, const std::string& substance) {
     if (const std::optional<Failure> failure = workspace.TakeSubstance(substance))
         return AnswerFor(*failure);
     Session& session = workspace.Records();
-    ModelChoice window(session.model, session.names);
+    ModelChoice window = MakeModelChoice(session);
     window.Open();
     Answer answer;
     answer.messages = workspace.Messages();

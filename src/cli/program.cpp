@@ -8,7 +8,7 @@ namespace orva {
 std::optional<Failure> Program::OpenDatabase(const std::string& database) {
     if (workspaces.contains(database))
         return std::nullopt;
-    auto workspace = std::make_unique<Workspace>(machine);
+    auto workspace = std::make_unique<Workspace>(machine, runner);
     if (std::optional<Failure> failure = workspace->Open(database))
         return failure;
     workspaces.emplace(database, std::move(workspace));

@@ -9,13 +9,14 @@
 #include "cli/request.h"
 #include "cli/workspace.h"
 #include "state/machine.h"
+#include "state/program_runner.h"
 
 namespace orva {
 
 // Answers requests, each as if it were the first. Databases that were opened stay open.
 class Program {
 public:
-    explicit Program(const Machine& theMachine) : machine(theMachine) {}
+    Program(const Machine& theMachine, ProgramRunner& theRunner) : machine(theMachine), runner(theRunner) {}
 
     Answer Execute(const Request& request);
     // Opens the database of the request if it is not open yet.
@@ -23,6 +24,7 @@ public:
 
 private:
     const Machine& machine;
+    ProgramRunner& runner;
     Drawing drawing;
     std::map<std::string, std::unique_ptr<Workspace>> workspaces; // by the name of their database
 };

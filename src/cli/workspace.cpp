@@ -65,8 +65,8 @@ void ApplyDisplay(const DisplayOptions& display, Session& session) {
 
 } // namespace
 
-Workspace::Workspace(const Machine& machine)
-    : session(machine, dialogs), lookup(session), start(SessionRecords::Of(session)) {}
+Workspace::Workspace(const Machine& machine, ProgramRunner& runner)
+    : session(machine, dialogs, &runner), lookup(session), start(SessionRecords::Of(session)) {}
 
 std::optional<Failure> Workspace::Open(const std::string& database) {
     dialogs.fileName = FileToOpen(database);

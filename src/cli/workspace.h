@@ -17,7 +17,7 @@ namespace orva {
 // context start from the records at its end.
 class Workspace {
 public:
-    explicit Workspace(const Machine& machine);
+    Workspace(const Machine& machine, ProgramRunner& runner);
     Workspace(const Workspace&) = delete;
     Workspace& operator=(const Workspace&) = delete;
 

@@ -2,6 +2,7 @@
 #include "platform/program_machine.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 
 #include "platform/qt_machine.h"
 
@@ -12,8 +13,14 @@ ProgramMachine::ProgramMachine(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QtMachine machine;
     installationFolder = machine.InstallationFolder();
-    writableFolder = machine.WritableFolder();
+    ownFolder = std::make_unique<QTemporaryDir>();
     decimalComma = machine.DecimalComma();
+}
+
+ProgramMachine::~ProgramMachine() = default;
+
+std::filesystem::path ProgramMachine::WritableFolder() const {
+    return ownFolder->path().toStdU16String();
 }
 
 } // namespace orva

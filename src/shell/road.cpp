@@ -107,6 +107,15 @@ void RestoreSubstance(Session& session) {
                         session.model.substance);
 }
 
+ModelChoice MakeModelChoice(Session& session) {
+    if (session.runner == nullptr)
+        return {session.model, session.names};
+    const auto determine = [&session](SubstanceModel& model, int eos) {
+        return DetermineEosConstants(model, eos, session.machine, *session.runner);
+    };
+    return {session.model, session.names, determine};
+}
+
 void AcceptModels(Session& session, const StatusPanels& panels) {
     session.Enter(SessionEvent::ModelsAccepted);
     session.statusPanels[0] = panels.substance;

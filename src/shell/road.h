@@ -26,6 +26,9 @@ bool AcceptSubstance(Session& session, int listIndex);
 // Loads the record of the accepted substance again, after a look at others.
 void RestoreSubstance(Session& session);
 
+// The rules of the model window on the records of the session.
+ModelChoice MakeModelChoice(Session& session);
+
 // What follows when the model window accepted its choice and the constants stand: commands, status panels,
 // units and ranges.
 void AcceptModels(Session& session, const StatusPanels& panels);

@@ -12,7 +12,8 @@ constexpr std::string_view lastSessionName = "OrvaLastSession.QCF";
 
 } // namespace
 
-Session::Session(const Machine& ownMachine, Dialogs& ownDialogs) : machine(ownMachine), dialogs(ownDialogs) {
+Session::Session(const Machine& ownMachine, Dialogs& ownDialogs, ProgramRunner* ownRunner)
+    : machine(ownMachine), dialogs(ownDialogs), runner(ownRunner) {
     state.decimalComma = machine.DecimalComma();
     style.decimal = state.decimalComma ? ',' : '.';
     statusPanels = {"", "", "", std::string(ContactText())};

@@ -10,6 +10,7 @@
 #include "state/machine.h"
 #include "state/name_tables.h"
 #include "state/options.h"
+#include "state/program_runner.h"
 #include "state/session_state.h"
 #include "state/substance_model.h"
 #include "substance/database.h"
@@ -20,11 +21,12 @@ namespace orva {
 class Session {
 public:
     // Start-up: decimal separator, model state, name tables, defaults of the windows, folders, enabling
-    // rules.
-    Session(const Machine& machine, Dialogs& dialogs);
+    // rules. Without a runner the equations whose constants come from a helper program are not offered.
+    Session(const Machine& machine, Dialogs& dialogs, ProgramRunner* runner = nullptr);
 
     const Machine& machine;
     Dialogs& dialogs;
+    ProgramRunner* const runner;
 
     NameTables names;
     SubstanceModel model;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "state/constants.h"
 #include "text/columns.h"
@@ -45,8 +46,8 @@ int ChoiceList::RowOf(int number) const {
     return row == rows.end() ? -1 : static_cast<int>(row - rows.begin());
 }
 
-ModelChoice::ModelChoice(SubstanceModel& substanceModel, NameTables& nameTables, bool offerVoHalme)
-    : model(substanceModel), names(nameTables), voHalmeOffered(offerVoHalme) {}
+ModelChoice::ModelChoice(SubstanceModel& substanceModel, NameTables& nameTables, Determine determineConstants)
+    : model(substanceModel), names(nameTables), determine(std::move(determineConstants)) {}
 
 void ModelChoice::Open() {
     ModelSelection& selection = model.selection;
@@ -126,7 +127,7 @@ void ModelChoice::FillEos() {
     list({eosIdealGas, eosVanDerWaals, eosBerthelot, eosRedlichKwong});
     if (omega)
         list({eosSoaveRedlichKwong, eosPengRobinson});
-    if (omega && voHalmeOffered)
+    if (omega && determine)
         list({eosVoHalme1, eosVoHalme2});
     list({virialByHand});
     if (omega)
@@ -284,17 +285,24 @@ std::optional<Message> ModelChoice::OmegaWarning() const {
                    MessageIcon::Exclamation};
 }
 
-bool ModelChoice::DetermineParameters() {
+EosDetermination ModelChoice::DetermineParameters() {
     const ModelSelection& selection = model.selection;
     if (selection.vaporPressure > vpAugust)
         CorrelateVapourPressure(model.substance, selection.vaporPressure);
-    return selection.eos == virialByHand || DetermineEosParameters(model, selection.eos);
+    if (selection.eos == virialByHand)
+        return {};
+    if (determine)
+        return determine(model, selection.eos);
+    return {.failed = !DetermineEosParameters(model, selection.eos), .messages = {}};
 }
 
 bool ModelChoice::OKModell(Dialogs& dialogs) {
     if (const std::optional<Message> warning = OmegaWarning())
         dialogs.Show(*warning);
-    return DetermineParameters();
+    const EosDetermination determination = DetermineParameters();
+    for (const Message& message : determination.messages)
+        dialogs.Show(message);
+    return !determination.failed;
 }
 
 // Code and nonCubic are read off the restored choice, so they go back with it.

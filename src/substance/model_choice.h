@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -10,6 +11,7 @@
 #include "state/dialogs.h"
 #include "state/name_tables.h"
 #include "state/substance_model.h"
+#include "substance/vo_halme_exchange.h"
 
 namespace orva {
 
@@ -36,8 +38,11 @@ struct StatusPanels {
 // is written into the model selection at once; cmdEsc brings the old one back.
 class ModelChoice {
 public:
-    // `offerVoHalme` lists the two Vo / Halme rows.
-    ModelChoice(SubstanceModel& substanceModel, NameTables& nameTables, bool offerVoHalme = false);
+    // Determines the constants of a row, with the helper program where the row needs it.
+    using Determine = std::function<EosDetermination(SubstanceModel&, int eos)>;
+
+    // Without `determineConstants` the closed formulas are used, and the two Vo / Halme rows are not listed.
+    ModelChoice(SubstanceModel& substanceModel, NameTables& nameTables, Determine determineConstants = {});
 
     std::string title;
     std::string Rx1, Rx2; // liquid density
@@ -63,9 +68,9 @@ public:
     // The box that comes first on acceptance when a chosen model needs an acentric factor that is not there.
     std::optional<Message> OmegaWarning() const;
     // Correlates the vapour-pressure equation if it is a correlated one, and determines the constants of the
-    // equation of state. False if that failed: the window then stays open.
-    bool DetermineParameters();
-    // Both of them in their order.
+    // equation of state. If that failed the window stays open.
+    EosDetermination DetermineParameters();
+    // Both of them in their order, with their boxes. False if the window stays open.
     bool OKModell(Dialogs& dialogs);
     void cmdEsc();
 
@@ -87,7 +92,7 @@ private:
 
     SubstanceModel& model;
     NameTables& names;
-    bool voHalmeOffered;
+    Determine determine;   // empty: closed formulas alone
     ModelSelection before; // as it was on opening
 };
 

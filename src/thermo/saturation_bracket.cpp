@@ -16,6 +16,7 @@ constexpr double lowestPressure = 1e-250; // kPa
 constexpr double pressureStride = 0.1;
 constexpr double lowestTemperature = 1e-3; // of T(cr)
 constexpr double temperatureStride = 0.9;
+constexpr double criticalWidth = 1e-6; // of T(cr)
 constexpr int newtonSteps = 100;
 constexpr double rootTolerance = 1e-15;
 
@@ -24,6 +25,7 @@ enum class Stable { Liquid, Vapour, Unknown };
 
 struct Trial {
     Stable stable = Stable::Unknown;
+    bool three = false; // volumes
     AreaRatio areas;
 };
 
@@ -101,6 +103,7 @@ Trial Judge(SubstanceModel& model, double T, double p) {
         trial.stable = volumes.liquidLike ? Stable::Liquid : Stable::Vapour;
         return trial;
     }
+    trial.three = true;
     trial.areas = MaxwellAreaRatio(model, T, p);
     // Three roots that coincide have no areas; the critical point is as near as numbers can tell.
     const bool vapour = trial.areas.failed ? !volumes.liquidLike : trial.areas.ratio > 0;
@@ -108,11 +111,16 @@ Trial Judge(SubstanceModel& model, double T, double p) {
     return trial;
 }
 
-SaturationResult Solution(double value, const Trial& trial) {
+const SaturationResult notFound{0, 0, 0, 0, true};
+
+// Where the bracket closes there are three volumes, unless they cannot be told apart right below T(cr). An
+// isotherm without a loop, of constants that are none, has no saturation.
+SaturationResult Solution(const SubstanceModel& model, double T, double value, const Trial& trial) {
+    const bool critical = model.substance.Tc - T < criticalWidth * model.substance.Tc;
+    if (trial.stable == Stable::Unknown || !(trial.three || critical))
+        return notFound;
     return {value, trial.areas.ratio, trial.areas.area1, trial.areas.area2, false};
 }
-
-const SaturationResult notFound{0, 0, 0, 0, true};
 
 // Without attraction and co-volume there is no second phase.
 bool HasConstants(const EosParameters& eos) {
@@ -143,8 +151,7 @@ SaturationResult BracketedSaturationPressure(SubstanceModel& model, double T) {
         (Judge(model, T, middle).stable == Stable::Vapour ? low : high) = middle;
     }
     const double p = 0.5 * (low + high);
-    const Trial trial = Judge(model, T, p);
-    return trial.stable == Stable::Unknown ? notFound : Solution(p, trial);
+    return Solution(model, T, p, Judge(model, T, p));
 }
 
 SaturationResult BracketedSaturationTemperature(SubstanceModel& model, double p) {
@@ -174,8 +181,7 @@ SaturationResult BracketedSaturationTemperature(SubstanceModel& model, double p)
         (judgeAt(middle).stable == Stable::Liquid ? low : high) = middle;
     }
     const double T = 0.5 * (low + high);
-    const Trial trial = judgeAt(T);
-    return trial.stable == Stable::Unknown ? notFound : Solution(T, trial);
+    return Solution(model, T, T, judgeAt(T));
 }
 
 } // namespace orva

@@ -97,7 +97,7 @@ TEST_F(ModelWindow, ListingTakesTheLeadingBlanksOutOfTheNameTable) {
 }
 
 TEST_F(ModelWindow, ListsEquationsOfStateInTheirOrder) {
-    ModelChoice all(model, names, true);
+    ModelChoice all(model, names, [](SubstanceModel&, int) { return EosDetermination{}; });
     all.Open();
     EXPECT_THAT(Numbers(all.EOSKombi), ElementsAre(0, 2, 3, 4, 5, 6, 7, 8, 10, 16, 11, 12, 13, 14, 15));
     EXPECT_EQ(all.EOSKombi.rows[5].text, FixedField("CEOS Peng / Robinson", 35));
@@ -112,7 +112,7 @@ TEST_F(ModelWindow, LeavesOutVoHalmeUnlessItIsOffered) {
 
 TEST_F(ModelWindow, WithoutAcentricFactorPresetsRedlichKwong) {
     substance.omega = 0;
-    ModelChoice all(model, names, true);
+    ModelChoice all(model, names, [](SubstanceModel&, int) { return EosDetermination{}; });
     all.Open();
     EXPECT_THAT(Numbers(all.EOSKombi), ElementsAre(0, 2, 3, 4, 10, 11, 12, 13));
     EXPECT_EQ(selection.eos, eosRedlichKwong);
