@@ -28,11 +28,8 @@ std::optional<Failure> ChooseEos(ModelChoice& window, SubstanceModel& model, con
                        byHand ? "option eos: equation of state 10 needs the option virial"
                               : "option virial: only equation of state 10 takes constants by hand",
                        {}};
-    if (options.virial) {
-        model.eos.b0 = (*options.virial)[0];
-        model.eos.nB = (*options.virial)[1];
-        model.eos.nF = (*options.virial)[2];
-    }
+    if (options.virial)
+        window.EnterVirialConstants(*options.virial);
     return std::nullopt;
 }
 

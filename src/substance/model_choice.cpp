@@ -52,6 +52,7 @@ ModelChoice::ModelChoice(SubstanceModel& substanceModel, NameTables& nameTables,
 void ModelChoice::Open() {
     ModelSelection& selection = model.selection;
     before = selection;
+    virialConstants.reset();
     loading = true;
     EOSKombi = pKombi = HLVKombi = WatsonKombi = cpKombi = {};
     watsonText.clear();
@@ -274,6 +275,27 @@ void ModelChoice::ChoosePriority(int button) {
     SetPriority(button == 0);
 }
 
+// Those in force if they were entered by hand: the slots mean something else for other rows.
+std::array<double, 3> ModelChoice::VirialConstants() const {
+    if (virialConstants)
+        return *virialConstants;
+    const EosParameters& eos = model.eos;
+    return before.eos == virialByHand ? std::array{eos.b0, eos.nB, eos.nF} : std::array{0.0, 0.0, 0.0};
+}
+
+void ModelChoice::EnterVirialConstants(const std::array<double, 3>& constants) {
+    virialConstants = constants;
+}
+
+// Nothing of the equation before may stay behind: its critical volume would scale reduced units.
+void ModelChoice::TakeVirialConstants() {
+    const std::array<double, 3> constants = VirialConstants();
+    model.eos = {};
+    model.eos.b0 = constants[0];
+    model.eos.nB = constants[1];
+    model.eos.nF = constants[2];
+}
+
 std::optional<Message> ModelChoice::OmegaWarning() const {
     const ModelSelection& selection = model.selection;
     if (model.substance.omega != 0 || !(selection.vaporization == hVapCarruth || NeedsOmega(selection.eos)))
@@ -289,8 +311,10 @@ EosDetermination ModelChoice::DetermineParameters() {
     const ModelSelection& selection = model.selection;
     if (selection.vaporPressure > vpAugust)
         CorrelateVapourPressure(model.substance, selection.vaporPressure);
-    if (selection.eos == virialByHand)
+    if (selection.eos == virialByHand) {
+        TakeVirialConstants();
         return {};
+    }
     if (determine)
         return determine(model, selection.eos);
     return {.failed = !DetermineEosParameters(model, selection.eos), .messages = {}};

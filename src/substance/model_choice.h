@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <functional>
 #include <initializer_list>
 #include <optional>
@@ -64,6 +65,10 @@ public:
     void TypeWatsonExponent(std::string_view text);
     void SelectCpModel(int row);
     void ChoosePriority(int button);
+    // Hand input of the virial equation B/m^3/kmol = b0 - b1/T^b2: the constants to show, and those entered.
+    // They come into force with the acceptance of the window.
+    std::array<double, 3> VirialConstants() const;
+    void EnterVirialConstants(const std::array<double, 3>& constants);
 
     // The box that comes first on acceptance when a chosen model needs an acentric factor that is not there.
     std::optional<Message> OmegaWarning() const;
@@ -87,13 +92,15 @@ private:
     void FillCpModel();
     void CorrectCpModel();
     void SetPriority(bool eosFirst);
+    void TakeVirialConstants();
     void TakeNonCubic();
     void TakeCubic();
 
     SubstanceModel& model;
     NameTables& names;
-    Determine determine;   // empty: closed formulas alone
-    ModelSelection before; // as it was on opening
+    Determine determine;                                  // empty: closed formulas alone
+    ModelSelection before;                                // as it was on opening
+    std::optional<std::array<double, 3>> virialConstants; // entered, not yet in force
 };
 
 } // namespace orva

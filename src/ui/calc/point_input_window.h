@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "calc/point_input.h"
+#include "ui/number_field.h"
+
+namespace orva {
+
+// The window that takes the numbers of one point. It stays open beside the result, for the next point.
+class frmParinput : public QDialog {
+    Q_OBJECT
+public:
+    frmParinput(PointInput input, Dialogs& dialogs, QWidget* parent = nullptr);
+
+    // Puts the keyboard on the first field with its number selected.
+    void FocusFirstField();
+
+signals:
+    // The numbers stand in row 0 of the data series.
+    void Accepted();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void AddVolumeChoice(QLayout& column);
+    void ShowLines();
+    void CalculateNow();
+    bool FocusNextField(QObject* from);
+
+    PointInput input;
+    Dialogs& dialogs;
+    std::array<QLabel*, 4> headings{}, labels{};
+    std::array<NumberField*, 4> fields{};
+    QPushButton* okButton;
+};
+
+} // namespace orva

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/diagrams/diagram_actions.h"
+
+#include "ui/diagrams/diagram_window_view.h"
+
+namespace orva {
+
+namespace {
+
+bool IsOpen(const DiagramWindow& window) {
+    return window.IsOpen();
+}
+bool HasCurves(const DiagramWindow& window) {
+    return window.Chart().curveCount > 0;
+}
+bool HasContents(const DiagramWindow& window) {
+    return HasCurves(window) || !window.Chart().marks.empty();
+}
+bool IsZoomed(const DiagramWindow& window) {
+    return window.IsZoomed();
+}
+bool IsLogX(const DiagramWindow& window) {
+    return window.Chart().logX;
+}
+bool IsLogY(const DiagramWindow& window) {
+    return window.Chart().logY;
+}
+
+bool HasAxis(const DiagramWindow& window, Quantity quantity) {
+    return window.Chart().xQuantity == quantity || window.Chart().yQuantity == quantity;
+}
+bool HasPressureAxis(const DiagramWindow& window) {
+    return HasAxis(window, Quantity::Pressure);
+}
+bool HasVolumeAxis(const DiagramWindow& window) {
+    return HasAxis(window, Quantity::Volume);
+}
+bool HasCoVolume(const DiagramWindow& window) {
+    return HasVolumeAxis(window) && !window.Records().model.selection.nonCubic;
+}
+bool HasPvAxes(const DiagramWindow& window) {
+    return HasPressureAxis(window) && HasVolumeAxis(window);
+}
+bool HasCalculatedCriticalPoint(const DiagramWindow& window) {
+    return HasPvAxes(window) && window.Records().model.eos.vCritCalc > 0;
+}
+bool HasDatabaseCriticalPoint(const DiagramWindow& window) {
+    return HasPvAxes(window) && window.Records().model.substance.vcDatabase > 0;
+}
+
+template<const char* command> bool IsMarked(const DiagramWindow& window) {
+    return window.HasMark(command);
+}
+constexpr char markP[] = "mnuMarkP";
+constexpr char markV[] = "mnuMarkV";
+constexpr char markB[] = "mnuMarkB";
+constexpr char markCalc[] = "mnuMarkCritPointCalc";
+constexpr char markEx[] = "mnuMarkCritPointEx";
+
+constexpr DiagramMenu menus[] = {
+    {"mnuBild", "&Diagramm"},
+    {"mnuAdd", "&Einfügen"},
+    {"mnuDel", "&Löschen"},
+    {"mnuView", "&Ansicht"},
+};
+
+using G = frmGraph2D;
+
+constexpr DiagramAction actions[] = {
+    {"cmdInput", "mnuBild", "&Wert eingeben …", "Ctrl+E", "T, p oder v der nächsten Kurve eingeben", "Wert …",
+     &G::cmdInput, IsOpen, nullptr},
+    {"cmdDraw", "mnuBild", "Kurve &zeichnen", "F5", "Kurve für den eingestellten Wert zeichnen", "Zeichnen",
+     &G::cmdDraw, IsOpen, nullptr},
+    {"", "mnuBild", "", "", "", "", nullptr, nullptr, nullptr},
+    {"mnuBildFile", "mnuBild", "Bildfile &schreiben …", "Ctrl+S", "Diagramm als SVG, PDF oder PNG speichern",
+     "Speichern …", &G::mnuBildFile, IsOpen, nullptr},
+    {"mnuBildClipboard", "mnuBild", "Bild zur Zwischena&blage", "Ctrl+Shift+C",
+     "Diagramm als Bitmap-Grafik kopieren", "", &G::mnuBildClipboard, IsOpen, nullptr},
+    {"cmdClipboard", "mnuBild", "&Kurvenpunkte kopieren", "Ctrl+C",
+     "Punkte aller Kurven mit Überschriften und Einheiten zur Zwischenablage", "Punkte kopieren",
+     &G::cmdClipboard, HasCurves, nullptr},
+    {"cmdPrint", "mnuBild", "&Drucken …", "Ctrl+P", "Diagramm drucken", "", &G::cmdPrint, IsOpen, nullptr},
+    {"", "mnuBild", "", "", "", "", nullptr, nullptr, nullptr},
+    {"cmdEscGraph", "mnuBild", "In den &Hintergrund", "", "Diagramm hinter die anderen Fenster legen", "",
+     &G::cmdEscGraph, nullptr, nullptr},
+
+    {"mnuMarkKonnode", "mnuAdd", "&Konnode V-L", "Ctrl+K", "Verbindung der beiden Gleichgewichtsphasen",
+     "Konnode", &G::mnuMarkKonnode, IsOpen, nullptr},
+    {"mnuMarkSKurve", "mnuAdd", "&S-Kurve im Zweiphasengebiet", "Ctrl+R",
+     "Teil der Isotherme zwischen Siede- und Taulinie", "S-Kurve", &G::mnuMarkSKurve, IsOpen, nullptr},
+    {"", "mnuAdd", "", "", "", "", nullptr, nullptr, nullptr},
+    {markP, "mnuAdd", "&Drücke: p(cr), p(LV) bei T, Normaldruck", "", "Marken der p-Achse", "", &G::mnuMarkP,
+     HasPressureAxis, IsMarked<markP>},
+    {markV, "mnuAdd", "kritisches &Volumen", "", "Marke der v-Achse", "", &G::mnuMarkV, HasVolumeAxis,
+     IsMarked<markV>},
+    {markB, "mnuAdd", "Kovolumen v = &b", "", "Marke der v-Achse", "", &G::mnuMarkB, HasCoVolume,
+     IsMarked<markB>},
+    {markCalc, "mnuAdd", "kritischer Punkt nach &EOS", "", "Punkt bei p(cr), v(cr) der Zustandsgleichung", "",
+     &G::mnuMarkCritPointCalc, HasCalculatedCriticalPoint, IsMarked<markCalc>},
+    {markEx, "mnuAdd", "kritischer &Punkt der Datenbank", "", "Punkt bei p(cr), v(cr) der Datenbank", "",
+     &G::mnuMarkCritPointEx, HasDatabaseCriticalPoint, IsMarked<markEx>},
+
+    {"mnuDelTotal", "mnuDel", "&Alles löschen", "Ctrl+Shift+Del", "Alle Kurven und Marken löschen", "",
+     &G::mnuDelTotal, HasContents, nullptr},
+
+    {"cmdZoom", "mnuView", "&Lupe", "Z", "Rechteck aufziehen, das vergrößert werden soll", "Lupe",
+     &G::cmdZoom, IsOpen, [](const DiagramWindow&) { return false; }},
+    {"cmdZoomReset", "mnuView", "&ganzes Diagramm", "Esc",
+     "Zurück zum ganzen Koordinatenfenster (auch Doppelklick)", "Ganz", &G::cmdZoomReset, IsZoomed, nullptr},
+    {"", "mnuView", "", "", "", "", nullptr, nullptr, nullptr},
+    {"mnuCoord", "mnuView", "&Koordinatenfenster …", "Ctrl+W", "Grenzen der Achsen festlegen", "Grenzen …",
+     &G::mnuCoord, IsOpen, nullptr},
+    {"cmdXLog", "mnuView", "&x-Achse logarithmisch", "", "x-Achse linear oder logarithmisch teilen", "log x",
+     &G::cmdXLog, IsOpen, IsLogX},
+    {"cmdYLog", "mnuView", "&y-Achse logarithmisch", "", "y-Achse linear oder logarithmisch teilen", "log y",
+     &G::cmdYLog, IsOpen, IsLogY},
+};
+
+} // namespace
+
+std::span<const DiagramMenu> DiagramMenus() {
+    return menus;
+}
+
+std::span<const DiagramAction> DiagramActions() {
+    return actions;
+}
+
+} // namespace orva

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/place_window.h"
+
+#include <algorithm>
+
+#include <QScreen>
+
+namespace orva {
+
+namespace {
+
+constexpr int gap = 12;
+
+} // namespace
+
+void BringToFront(QWidget& window) {
+    if (window.isMinimized())
+        window.showNormal();
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+void PlaceBeside(QWidget& window, const QWidget& other) {
+    const QRect area = other.screen()->availableGeometry();
+    const QRect neighbour = other.frameGeometry();
+    const int left = std::min(neighbour.right() + gap, area.right() - window.width() - gap);
+    window.move(std::max(left, area.left()), std::max(neighbour.top(), area.top()));
+}
+
+} // namespace orva

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/shell/diagram_desk.h"
+
+#include "ui/diagrams/diagram_window_view.h"
+#include "ui/diagrams/value_input_view.h"
+#include "ui/place_window.h"
+
+namespace orva {
+
+namespace {
+
+DiagramRecords RecordsOf(Session& session) {
+    return {session.model, session.options, session.ranges,
+            session.curve, session.state,   session.calculation.diagramTemperature,
+            session.names, session.style};
+}
+
+// A projection and a function of T draw their whole curve without an input.
+bool TakesValue(const DiagramRow& row) {
+    return row.curveKind != curveProjection && row.curveKind != curveFunctionOfT;
+}
+
+} // namespace
+
+DiagramDesk::DiagramDesk(Session& session, QWidget* owner)
+    : QObject(owner), window(RecordsOf(session), session.dialogs),
+      input(RecordsOf(session), window, session.dialogs),
+      graph(new frmGraph2D(window, session.dialogs, owner)), valueBox(new frmTpVSInputBox(input, graph)) {
+    connect(graph, &frmGraph2D::InputWanted, this, &DiagramDesk::AskForValue);
+}
+
+// The windows refer to the models, so they go first.
+DiagramDesk::~DiagramDesk() {
+    delete graph;
+}
+
+void DiagramDesk::Open(const DiagramRow& row) {
+    if (!window.Open(&row))
+        return;
+    BringToFront(*graph);
+    if (TakesValue(row))
+        AskForValue();
+}
+
+void DiagramDesk::AskForValue() {
+    if (!valueBox->isVisible()) {
+        valueBox->adjustSize();
+        PlaceBeside(*valueBox, *graph);
+    }
+    valueBox->Refresh();
+    BringToFront(*valueBox);
+}
+
+} // namespace orva

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include "diagrams/value_input.h"
+#include "shell/session.h"
+
+namespace orva {
+
+class frmGraph2D;
+class frmTpVSInputBox;
+
+// The 2D diagram with its two windows. They are made with the first diagram and serve all that follow.
+class DiagramDesk : public QObject {
+    Q_OBJECT
+public:
+    DiagramDesk(Session& session, QWidget* owner);
+    ~DiagramDesk() override;
+
+    // Sets the diagram up, shows it, and asks for the T, p or v of the first curve where the type needs one.
+    void Open(const DiagramRow& row);
+
+private:
+    void AskForValue();
+
+    DiagramWindow window;
+    ValueInput input;
+    QPointer<frmGraph2D> graph;
+    frmTpVSInputBox* valueBox;
+};
+
+} // namespace orva

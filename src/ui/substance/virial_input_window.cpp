@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/substance/virial_input_window.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "text/number_format.h"
+#include "text/number_input.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace orva {
+
+namespace {
+
+constexpr const char* fieldLabels[] = {"b0 = ", "b1 = ", "b2 = "};
+
+} // namespace
+
+frmBParInput::frmBParInput(const std::array<double, 3>& values, QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmBParInput"));
+    setWindowTitle(QStringLiteral("Eingabe: Virialkoeffizient B(T)"));
+    auto* column = new QVBoxLayout(this);
+    auto* formula = new QLabel(QStringLiteral("B/m^3/kmol = b0 - b1/T^b2"), this);
+    formula->setFont(FixedPitchFont());
+    column->addWidget(formula);
+    column->addSpacing(6);
+    auto* form = new QFormLayout;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        fields[i] = new NumberField(this);
+        fields[i]->setObjectName(ControlName("par", static_cast<int>(i)));
+        fields[i]->setText(ToQt(General(values[i])));
+        fields[i]->installEventFilter(this);
+        auto* label = new QLabel(QLatin1String(fieldLabels[i]), this);
+        label->setFont(FixedPitchFont());
+        form->addRow(label, fields[i]);
+    }
+    column->addLayout(form);
+    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("cmdParameter_OK"));
+    ok->setDefault(true);
+    auto* cancel = new QPushButton(QStringLiteral("&Abbrechen"), this);
+    cancel->setObjectName(QStringLiteral("cancel"));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    column->addSpacing(6);
+    column->addLayout(buttons);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    fields.front()->setFocus();
+    fields.front()->selectAll();
+}
+
+std::array<double, 3> frmBParInput::Values() const {
+    std::array<double, 3> values{};
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        values[i] = ParseNumber(FromQt(fields[i]->text()));
+    return values;
+}
+
+bool frmBParInput::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && watched != fields.back()) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            focusNextChild();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+} // namespace orva

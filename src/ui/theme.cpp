@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/theme.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+
+#include "ui/text.h"
+
+namespace orva {
+
+namespace {
+
+constexpr int ordinaryResultSize = 8;
+constexpr int darkLightness = 128;
+
+// Mixes its text colour from the palette each time it is painted.
+class MutedTextLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void changeEvent(QEvent* event) override {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange && !mixing)
+            Mix();
+    }
+    void showEvent(QShowEvent* event) override {
+        Mix();
+        QLabel::showEvent(event);
+    }
+
+private:
+    void Mix() {
+        mixing = true;
+        QPalette own = QApplication::palette(this);
+        const QColor muted = MutedColour(own);
+        own.setColor(QPalette::WindowText, muted);
+        own.setColor(QPalette::Text, muted); // the role on a ground like that of a list
+        setPalette(own);
+        mixing = false;
+    }
+
+    bool mixing = false;
+};
+
+} // namespace
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightness() < darkLightness;
+}
+
+QColor ReportColour(TextColour colour, const QPalette& palette) {
+    const bool dark = IsDark(palette);
+    switch (colour) {
+    case TextColour::Red:
+        return dark ? QColor(255, 138, 128) : QColor(128, 0, 0);
+    case TextColour::Blue:
+        return dark ? QColor(140, 180, 255) : QColor(0, 0, 255);
+    case TextColour::Black:
+        break;
+    }
+    return palette.color(QPalette::Text);
+}
+
+QColor MutedColour(const QPalette& palette) {
+    constexpr float share = 0.65F;
+    const QColor text = palette.color(QPalette::Active, QPalette::Text);
+    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+    const auto mix = [](float a, float b) { return share * a + (1 - share) * b; };
+    return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
+                            mix(text.blueF(), ground.blueF()));
+}
+
+QFont FixedPitchFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(QApplication::font().pointSizeF());
+    return font;
+}
+
+void ShowResultLabel(QLabel& label, const ResultLabel& content) {
+    label.setText(ToQt(content.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    QFont font = QApplication::font();
+    font.setBold(content.bold);
+    font.setPointSizeF(font.pointSizeF() + content.size - ordinaryResultSize);
+    label.setFont(font);
+    QPalette palette = QApplication::palette(&label);
+    palette.setColor(QPalette::WindowText, ReportColour(content.colour, palette));
+    label.setPalette(palette);
+}
+
+QLabel* MutedLabel(const QString& text, QWidget* parent) {
+    auto* label = new MutedTextLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QToolButton* HelpButton(const QString& name, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setText(QStringLiteral("?"));
+    button->setObjectName(name);
+    button->setToolTip(QStringLiteral("Hilfe"));
+    button->setAccessibleName(QStringLiteral("Hilfe"));
+    button->setEnabled(false);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace orva
