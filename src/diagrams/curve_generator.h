@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "diagrams/chosen_diagram.h"
 #include "diagrams/curve_points.h"
-#include "diagrams/diagram_spec.h"
 #include "diagrams/tie_line.h"
 #include "state/options.h"
 #include "state/substance_model.h"

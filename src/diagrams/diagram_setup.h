@@ -2,19 +2,19 @@
 #pragma once
 
 #include "diagrams/catalogue.h"
+#include "diagrams/chosen_diagram.h"
 #include "diagrams/diagram_records.h"
-#include "diagrams/diagram_spec.h"
 
 namespace orva {
 
-// Writes the default window of the diagram type into the spec. Nothing changes for a type that is not built.
+// Writes the default window of the diagram type. Nothing changes for a type that is not built.
 void ApplyRanges(const DiagramRanges& ranges, DiagramSpec& spec);
 
-// Brings curve parameters, units, window, axis titles and heading up to date for spec.type. The first diagram
-// after a change of the substance starts at the critical temperature.
+// Brings curve parameters, units, window, axis titles and heading up to date for the chosen type. The first
+// diagram after a change of the substance starts at the critical temperature.
 void SetUpDiagram(DiagramRecords& records, DiagramSpec& spec);
 
-// Writes type, curveKind and curveCode of a row into the spec and sets the diagram up.
+// Takes type, curveKind and curveCode from a row and sets the diagram up.
 void SelectDiagram(DiagramRecords& records, const DiagramRow& row, DiagramSpec& spec);
 
 // "v / (m^3/kmol)": quantity and unit of an axis that is not reduced.

@@ -140,6 +140,7 @@ double StartPressure(const SubstanceModel& model, double T) {
 
 // One root means that the trial temperature lies outside of the loop: too low for a liquid-like root.
 void SteerTemperature(SecantState& s, double root, double vCrit) {
+    ++s.singlePasses;
     const double w = RootKind(root, vCrit);
     if (s.singlePasses == 1) {
         s.step *= stepReduction;
@@ -180,26 +181,47 @@ Pass SecantTemperature(SecantState& s, double x) {
     return Pass::Continue;
 }
 
-SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstart) {
-    const double Tc = model.substance.Tc;
-    const double vCrit = model.eos.vCritCalc;
+// The search for p(LV) at a temperature.
+struct PressureSearch {
+    static constexpr int passes = pressurePasses;
+    double T, start, critical;
+
+    void Enter(SubstanceModel&, double) const {} // the parameters stand at T
+    double TemperatureOf(double) const { return T; }
+    double PressureOf(double value) const { return value; }
+    static void Steer(SecantState& s, double root, double vCrit) { SteerPressure(s, root, vCrit); }
+    static Pass Step(SecantState& s, double x) { return SecantPressure(s, x); }
+};
+
+// The search for T(LV) at a pressure.
+struct TemperatureSearch {
+    static constexpr int passes = temperaturePasses;
+    double p, start, critical;
+
+    void Enter(SubstanceModel& model, double value) const { SetEosCoefficients(model, value); }
+    double TemperatureOf(double value) const { return value; }
+    double PressureOf(double) const { return p; }
+    static void Steer(SecantState& s, double root, double vCrit) { SteerTemperature(s, root, vCrit); }
+    static Pass Step(SecantState& s, double x) { return SecantTemperature(s, x); }
+};
+
+template<class Search> SaturationResult RunSearch(SubstanceModel& model, const Search& search) {
     SaturationResult result;
     SecantState s;
-    s.value = Tstart == 0 ? std::log(p) * Tc / std::log(model.substance.pc) : Tstart;
-    for (int pass = 1; pass <= temperaturePasses; ++pass) {
-        SetEosCoefficients(model, s.value);
-        const CubicSolution cubic = SolveEosCubic(model, s.value, p);
+    s.value = search.start;
+    for (int pass = 1; pass <= Search::passes; ++pass) {
+        search.Enter(model, s.value);
+        const double T = search.TemperatureOf(s.value);
+        const double p = search.PressureOf(s.value);
+        const CubicSolution cubic = SolveEosCubic(model, T, p);
         if (!(model.work.Roots[0] > model.eos.B) || cubic.rootCount == 0)
             return Failure(result);
         result.failed = false; // of the areas of the pass before
         if (cubic.rootCount == 1) {
-            if (++s.singlePasses > temperaturePasses)
-                return Failure(result);
-            SteerTemperature(s, model.work.Roots[0], vCrit);
+            Search::Steer(s, model.work.Roots[0], model.eos.vCritCalc);
         } else {
-            const AreaRatio areas = MaxwellAreaRatio(model, s.value, p);
-            TakeAreas(result, areas);
-            const Pass next = SecantTemperature(s, areas.ratio);
+            TakeAreas(result, MaxwellAreaRatio(model, T, p));
+            const Pass next = Search::Step(s, result.areaRatio);
             if (next == Pass::Failed)
                 return Failure(result);
             if (next == Pass::Converged) {
@@ -208,7 +230,7 @@ SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstar
             }
         }
         s.Advance();
-        if (SameSingle(s.value, Tc)) {
+        if (SameSingle(s.value, search.critical)) {
             result.value = s.value;
             return result.failed ? Failure(result) : result;
         }
@@ -216,6 +238,17 @@ SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstar
             s.RestartNearZero();
     }
     return Failure(result);
+}
+
+SaturationResult SearchPressure(SubstanceModel& model, double T) {
+    SetEosCoefficients(model, T);
+    return RunSearch(model, PressureSearch{T, StartPressure(model, T), model.substance.pc});
+}
+
+SaturationResult SearchTemperature(SubstanceModel& model, double p, double Tstart) {
+    const double Tc = model.substance.Tc;
+    const double start = Tstart == 0 ? std::log(p) * Tc / std::log(model.substance.pc) : Tstart;
+    return RunSearch(model, TemperatureSearch{p, start, Tc});
 }
 
 // Scan downward from T(cr). Kept on purpose: the first step in kelvins is the number (p(cr) - p) / 100 in
@@ -251,41 +284,6 @@ SaturationResult ScanTemperature(SubstanceModel& model, double p) {
             result.value = T;
             return result;
         }
-    }
-    return Failure(result);
-}
-
-SaturationResult SearchPressure(SubstanceModel& model, double T) {
-    const double pc = model.substance.pc;
-    SetEosCoefficients(model, T);
-    SaturationResult result;
-    SecantState s;
-    s.value = StartPressure(model, T);
-    for (int pass = 1; pass <= pressurePasses; ++pass) {
-        const CubicSolution cubic = SolveEosCubic(model, T, s.value);
-        if (!(model.work.Roots[0] > model.eos.B) || cubic.rootCount == 0)
-            return Failure(result);
-        result.failed = false; // of the areas of the pass before
-        if (cubic.rootCount == 1) {
-            SteerPressure(s, model.work.Roots[0], model.eos.vCritCalc);
-        } else {
-            const AreaRatio areas = MaxwellAreaRatio(model, T, s.value);
-            TakeAreas(result, areas);
-            const Pass next = SecantPressure(s, areas.ratio);
-            if (next == Pass::Failed)
-                return Failure(result);
-            if (next == Pass::Converged) {
-                result.value = s.value;
-                return result.failed ? Failure(result) : result;
-            }
-        }
-        s.Advance();
-        if (SameSingle(s.value, pc)) {
-            result.value = s.value;
-            return result.failed ? Failure(result) : result;
-        }
-        if (s.value < smallestIterate)
-            s.RestartNearZero();
     }
     return Failure(result);
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "fluids.h"
+#include "thermo/fluids.h"
 #include "thermo/cubic_equation.h"
 #include "thermo/phase_volumes.h"
 
