@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "thermo/fluids.h"
 #include "thermo/cubic_equation.h"
+#include "thermo/fluids.h"
 #include "thermo/phase_volumes.h"
 
 // States of every row of the equation of state, and differences of p(T, v) to hold its derivatives against.
