@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # install_packages GROUP...: installs the Debian packages of the groups that are missing.
 
-build_packages="g++ cmake ninja-build qt6-base-dev libqt6svg6-dev libgl-dev libqt6opengl6-dev libqcustomplot-dev
+build_packages="g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libqt6svg6-dev libgl-dev libqt6opengl6-dev libqcustomplot-dev
     nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core"
 test_packages="xvfb xauth"
 style_packages="clang-format clang-tidy python3"

@@ -37,7 +37,8 @@ KindLines LinesOf(int kind) {
     return {kind, true, false, false, false};
 }
 
-std::string ShownNumber(double x) {
+// All digits that the row holds, so that calculating again means the same point.
+template<class Number> std::string ShownNumber(Number x) {
     return x > missingValue ? General(x) : std::string();
 }
 

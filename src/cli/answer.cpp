@@ -14,6 +14,12 @@ Answer AnswerFor(const Failure& failure) {
     return answer;
 }
 
+std::string TakeJsonText(Answer&& answer) {
+    if (answer.jsonText.empty() && !answer.json.is_null())
+        return JsonText(answer.json);
+    return std::move(answer.jsonText);
+}
+
 std::string OneLine(std::string_view text) {
     std::string line;
     for (const char c : text) {

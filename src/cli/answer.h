@@ -21,12 +21,16 @@ struct Failure {
 
 // What a command hands back.
 struct Answer {
-    Json json;        // null if there is nothing to print
-    std::string text; // for the text format
+    Json json;            // null if there is nothing to print
+    std::string jsonText; // instead of `json`, if the command wrote it straight
+    std::string text;     // for the text format
     int exitStatus = exitGood;
     std::string error; // the line for standard error when the exit status is not 0
     std::vector<Message> messages;
 };
+
+// The line of JSON of an answer; empty if there is none.
+std::string TakeJsonText(Answer&& answer);
 
 // An answer that only says why there is none. {"error"}, with the boxes in {"messages"} if there are any.
 Answer AnswerFor(const Failure& failure);

@@ -28,7 +28,7 @@ std::string HelpText(const OptionRow& row) {
 
 std::string LineName(const OptionRow& row) {
     const std::string name(row.name);
-    return row.positional ? "--" + name + "," + name : "--" + name;
+    return row.argument.empty() ? "--" + name : "--" + name + "," + std::string(row.argument);
 }
 
 void AddOption(CLI::App& command, const OptionRow& row, std::deque<GivenOption>& given) {
@@ -63,6 +63,16 @@ std::string TakeOptions(const std::deque<GivenOption>& given, Request& request) 
             return error;
     }
     return CheckRequest(request);
+}
+
+// The library would ask for an argument by the name of its option.
+std::string MissingText(const CLI::App& app, const CLI::RequiredError& error) {
+    for (const CLI::App* chosen : app.get_subcommands())
+        for (const OptionRow& row : OptionTable())
+            if ((row.commands & CommandBit(FindCliCommand(chosen->get_name())->command)) != 0
+                && !row.argument.empty() && chosen->count("--" + std::string(row.name)) == 0)
+                return "the argument " + std::string(row.argument) + " is missing";
+    return OneLine(error.what());
 }
 
 // The library has no clear words for a first argument that is no command.
@@ -103,6 +113,9 @@ CommandLine ReadCommandLine(int argc, char** argv) {
     } catch (const CLI::CallForHelp&) {
         const auto chosen = app.get_subcommands();
         line.help = chosen.empty() ? app.help() : chosen.front()->help("orva-cli");
+        return line;
+    } catch (const CLI::RequiredError& error) {
+        line.error = MissingText(app, error);
         return line;
     } catch (const CLI::ParseError& error) {
         line.error = OneLine(error.what());

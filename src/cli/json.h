@@ -33,20 +33,4 @@ template<typename Values> Json NumbersJson(const Values& values) {
     return Json(std::move(array));
 }
 
-// An object of keys and values in turn, built in place: JsonObject("T", 300.0, "p", 100.0). The plain braces
-// of the library make an array of each pair first, which a file of many requests notices.
-template<typename... KeysAndValues> Json JsonObject(KeysAndValues&&... keysAndValues) {
-    static_assert(sizeof...(keysAndValues) % 2 == 0);
-    Json::object_t object;
-    object.reserve(sizeof...(keysAndValues) / 2);
-    const auto add = [&object](auto&& self, const char* key, auto&& value, auto&&... others) -> void {
-        object.Container::emplace_back(key, std::forward<decltype(value)>(value));
-        if constexpr (sizeof...(others) > 0)
-            self(self, std::forward<decltype(others)>(others)...);
-    };
-    if constexpr (sizeof...(keysAndValues) > 0)
-        add(add, std::forward<KeysAndValues>(keysAndValues)...);
-    return Json(std::move(object));
-}
-
 } // namespace orva

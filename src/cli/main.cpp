@@ -10,19 +10,21 @@
 
 namespace {
 
-int Print(const orva::Answer& answer, bool textFormat) {
-    if (!answer.json.is_null())
-        std::cout << orva::JsonText(answer.json) << '\n';
-    std::cout << answer.text << std::flush;
+// Wrong usage has no answer, whether the options alone or the substance showed it; nor does JSON belong into
+// the text format.
+int Print(orva::Answer answer, bool textFormat) {
     if (textFormat)
+        std::cout << answer.text;
+    else if (answer.exitStatus != orva::exitWrongUsage)
+        std::cout << orva::TakeJsonText(std::move(answer)) << '\n';
+    std::cout << std::flush;
+    if (textFormat && answer.exitStatus != orva::exitWrongUsage)
         for (const orva::Message& message : answer.messages)
             orva::PrintErrorLine(message.title + ": " + message.text);
     if (answer.exitStatus != orva::exitGood)
         orva::PrintErrorLine(answer.error);
-    if (!std::cout && answer.exitStatus == orva::exitGood) {
-        orva::PrintErrorLine("standard output cannot be written");
-        return orva::exitDataError;
-    }
+    else if (!std::cout)
+        return orva::OutputFailure();
     return answer.exitStatus;
 }
 
@@ -37,7 +39,7 @@ int main(int argc, char** argv) {
     }
     if (!line.help.empty()) {
         std::cout << line.help << std::flush;
-        return orva::exitGood;
+        return std::cout ? orva::exitGood : orva::OutputFailure();
     }
     const orva::ProgramMachine machine(argc, argv);
     orva::QtProgramRunner runner;

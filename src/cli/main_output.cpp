@@ -18,6 +18,11 @@ void PrintErrorLine(std::string_view text) {
     std::cerr << "orva-cli: " << OneLine(text) << std::endl;
 }
 
+int OutputFailure() {
+    PrintErrorLine("standard output cannot be written");
+    return exitDataError;
+}
+
 bool IsErrorTerminal() {
 #ifdef _WIN32
     return _isatty(_fileno(stderr)) != 0;

@@ -8,6 +8,9 @@ namespace orva {
 // "orva-cli: text" on standard error.
 void PrintErrorLine(std::string_view text);
 
+// Says that standard output cannot be written; the exit status for it.
+int OutputFailure();
+
 // True if standard error is a terminal.
 bool IsErrorTerminal();
 

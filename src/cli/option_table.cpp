@@ -40,28 +40,29 @@ double First(V value) {
 // Shorthands for the rows below.
 constexpr OptionRow Integer(std::string_view name, unsigned commands, int low, int high,
                             std::string_view help, void (*put)(Request&, V)) {
-    return {name,  commands, ValueKind::Integer, double(low), double(high), 1, "", help, false, false,
+    return {name,  commands, ValueKind::Integer, double(low), double(high), 1, "", help, false, "",
             false, put};
 }
 constexpr OptionRow Number(std::string_view name, unsigned commands, std::string_view help,
                            void (*put)(Request&, V), double limit = anyNumber) {
-    return {name, commands, ValueKind::Number, -limit, limit, 1, "", help, false, false, false, put};
+    return {name, commands, ValueKind::Number, -limit, limit, 1, "", help, false, "", false, put};
 }
 constexpr OptionRow Numbers(ValueKind kind, std::string_view name, unsigned commands, std::size_t count,
                             std::string_view help, void (*put)(Request&, V), double limit = anyNumber,
                             std::string_view choices = "") {
-    return {name, commands, kind, -limit, limit, count, choices, help, false, false, false, put};
+    return {name, commands, kind, -limit, limit, count, choices, help, false, "", false, put};
 }
 constexpr OptionRow Word(ValueKind kind, std::string_view name, unsigned commands, std::string_view choices,
                          std::string_view help, void (*put)(Request&, V)) {
-    return {name, commands, kind, 0, 0, 0, choices, help, false, false, false, put};
+    return {name, commands, kind, 0, 0, 0, choices, help, false, "", false, put};
 }
 constexpr OptionRow Required(OptionRow row) {
     row.required = true;
     return row;
 }
-constexpr OptionRow Positional(OptionRow row) {
-    row.required = row.positional = true;
+constexpr OptionRow Positional(OptionRow row, std::string_view argument) {
+    row.required = true;
+    row.argument = argument;
     return row;
 }
 constexpr OptionRow LineOnly(OptionRow row) {
@@ -74,14 +75,17 @@ constexpr OptionRow rows[] = {
          "database file; ORVA.Q05 of the installation folder if it is not given",
          [](Request& r, V v) { r.database = v.text; }),
     Positional(Word(ValueKind::Text, "text", find, "", "name, CAS number, #index or serial number",
-                    [](Request& r, V v) { r.text = v.text; })),
+                    [](Request& r, V v) { r.text = v.text; }),
+               "TEXT"),
     Positional(Word(ValueKind::Text, "substance", show | models, "", "CAS number, name, synonym or #index",
-                    [](Request& r, V v) { r.context.substance = v.text; })),
+                    [](Request& r, V v) { r.context.substance = v.text; }),
+               "SUBSTANCE"),
     Required(Word(ValueKind::Text, "substance", calculations, "", "CAS number, name, synonym or #index",
                   [](Request& r, V v) { r.context.substance = v.text; })),
     LineOnly(Positional(Word(ValueKind::Text, "requests", run, "",
                              "file with one request a line, - for standard input",
-                             [](Request& r, V v) { r.requestsFile = v.text; }))),
+                             [](Request& r, V v) { r.requestsFile = v.text; }),
+                        "FILE")),
 
     Required(Integer("kind", point, 1, 24, "number of the calculation; 3: T, p => rho",
                      [](Request& r, V v) { r.point.kind = Whole(v); })),
@@ -169,9 +173,9 @@ constexpr OptionRow rows[] = {
             [](Request& r, V v) { r.context.display.unitBasis = Whole(v); }),
     Integer("volume-basis", calculations, 0, 2, "volumes: 0 molar, 1 specific, 2 reduced",
             [](Request& r, V v) { r.context.display.volumeBasis = Whole(v); }),
-    Integer("extended", calculations, 1, 4, "1 none, 2 coefficients, 3 derivatives, 4 both",
+    Integer("extended", point, 1, 4, "1 none, 2 coefficients, 3 derivatives, 4 both",
             [](Request& r, V v) { r.context.display.extended = Whole(v); }),
-    Word(ValueKind::Flag, "function-list", calculations, "", "list of thermodynamic functions",
+    Word(ValueKind::Flag, "function-list", point, "", "list of thermodynamic functions",
          [](Request& r, V v) { r.context.display.functionList = v.on; }),
 };
 

@@ -40,8 +40,8 @@ struct OptionRow {
     std::string_view choices; // "global|partial"
     std::string_view help;
     bool required;
-    bool positional; // may stand on the command line without its name
-    bool lineOnly;   // not in requests
+    std::string_view argument; // "FILE": may stand on the command line without its name
+    bool lineOnly;             // not in requests
     void (*put)(Request&, const OptionValue&);
 };
 

@@ -1,34 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/point_input.h"
 #include "cli/commands.h"
+#include "cli/json_writer.h"
 #include "shell/road.h"
 
 namespace orva {
 
 namespace {
 
-Json RecordJson(const ResultRecord& record) {
-    return JsonObject("phase", record.phase, "T", double(record.T), "p", double(record.p), "v",
-                      double(record.v), "Tcalc", double(record.Tcalc), "pcalc", double(record.pcalc), "rhoV",
-                      double(record.rhoV), "rhoL", double(record.rhoL), "hLV", double(record.hLV), "deriv",
-                      NumbersJson(record.deriv), "resid", NumbersJson(record.resid), "coeff",
-                      NumbersJson(record.coeff), "mech", NumbersJson(record.mech), "h", double(record.h), "s",
-                      double(record.s), "g", double(record.g), "eH", double(record.eH), "eU",
-                      double(record.eU));
+constexpr std::size_t usualAnswerSize = 2048; // bytes
+
+auto RecordJson(const ResultRecord& record) {
+    return [&record](std::string& text) {
+        AppendObject(text, "phase", record.phase, "T", record.T, "p", record.p, "v", record.v, "Tcalc",
+                     record.Tcalc, "pcalc", record.pcalc, "rhoV", record.rhoV, "rhoL", record.rhoL, "hLV",
+                     record.hLV, "deriv", record.deriv, "resid", record.resid, "coeff", record.coeff, "mech",
+                     record.mech, "h", record.h, "s", record.s, "g", record.g, "eH", record.eH, "eU",
+                     record.eU);
+    };
 }
 
-Json LabelsJson(const PointResult& result) {
-    return JsonObject("par1", result.par1.text, "par2", result.par2.text, "co1", result.co1.text, "co2",
-                      result.co2.text);
+auto LabelsJson(const PointResult& result) {
+    return [&result](std::string& text) {
+        AppendObject(text, "par1", result.par1.text, "par2", result.par2.text, "co1", result.co1.text, "co2",
+                     result.co2.text);
+    };
 }
 
-Json ResultJson(const PointResult& result, const std::vector<Message>& messages) {
-    return JsonObject("kind", result.kind, "failed", result.failed, "note", result.note, "hasL", result.hasL,
-                      "hasV", result.hasV, "rootIndex", result.rootIndex, "phaseVerdict", result.phaseVerdict,
-                      "liquidPercent", double(result.liquidPercent), "p", result.p, "T", result.T, "results",
-                      NumbersJson(result.results), "record", RecordJson(result.record), "roots",
-                      NumbersJson(result.roots), "labels", LabelsJson(result), "report", result.report,
-                      "messages", MessagesJson(messages));
+std::string ResultJson(const PointResult& result, const std::vector<Message>& messages) {
+    const auto boxes = [&messages](std::string& text) {
+        text += messages.empty() ? "[]" : JsonText(MessagesJson(messages));
+    };
+    std::string text;
+    text.reserve(usualAnswerSize);
+    AppendObject(text, "kind", result.kind, "failed", result.failed, "note", result.note, "hasL", result.hasL,
+                 "hasV", result.hasV, "rootIndex", result.rootIndex, "phaseVerdict", result.phaseVerdict,
+                 "liquidPercent", result.liquidPercent, "p", result.p, "T", result.T, "results",
+                 result.results, "record", RecordJson(result.record), "roots", result.roots, "labels",
+                 LabelsJson(result), "report", result.report, "messages", boxes);
+    return text;
 }
 
 // What the window shows in red, in one line.
@@ -78,7 +88,7 @@ Answer PointCommand(Workspace& workspace, const Request& request) {
     if (request.textFormat)
         answer.text = ResultText(result);
     else
-        answer.json = ResultJson(result, answer.messages);
+        answer.jsonText = ResultJson(result, answer.messages);
     if (result.failed) {
         answer.exitStatus = exitCalculationFailed;
         answer.error = "the calculation failed: " + FailureText(result);

@@ -31,7 +31,16 @@ constexpr GivenValue givenValues[] = {
     {"volume", [](const PointOptions& p) { return p.volume.has_value(); }, TakesNone},
 };
 
-std::string CheckPoint(const PointOptions& point) {
+// The blocks and lists that a calculation can append to its report.
+std::string CheckDisplay(const DisplayOptions& display, const std::string& kind) {
+    if (display.extended != DisplayOptions().extended)
+        return "option extended: only 1 is available for " + kind;
+    if (display.functionList)
+        return "option function-list is not available for " + kind;
+    return {};
+}
+
+std::string CheckPoint(const PointOptions& point, const DisplayOptions& display) {
     const auto kind = [&point] { return "kind " + std::to_string(point.kind); };
     if (!IsKindAvailable(point.kind))
         return "calculation " + kind() + " is not available";
@@ -43,6 +52,8 @@ std::string CheckPoint(const PointOptions& point) {
         return "options liquid-density and reference-density belong to the partial method, which is not "
                "available for "
                + kind();
+    if (std::string error = CheckDisplay(display, kind()); !error.empty())
+        return error;
     for (const GivenValue& value : givenValues) {
         const bool taken = value.taken(point.kind);
         if (taken != value.given(point))
@@ -74,7 +85,7 @@ std::string CheckCurve(const CurveOptions& curve) {
 
 std::string CheckRequest(const Request& request) {
     if (request.command == Command::Point)
-        return CheckPoint(request.point);
+        return CheckPoint(request.point, request.context.display);
     if (request.command == Command::Curve)
         return CheckCurve(request.curve);
     return {};

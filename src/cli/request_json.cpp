@@ -16,10 +16,15 @@ std::string MissingOption(Command command, const Json& json) {
     return {};
 }
 
-// "syntax error ..." without the number of the library's own error.
+// "column 8: syntax error ..." without the number of the library's own error; each request is line 1 of a
+// text of its own, which says nothing about the file of requests.
 std::string SyntaxError(std::string_view what) {
-    const std::size_t bracket = what.find("] ");
-    return std::string("not JSON: ") + std::string(bracket == what.npos ? what : what.substr(bracket + 2));
+    constexpr std::string_view position = "parse error at line ";
+    if (const std::size_t bracket = what.find("] "); bracket != what.npos)
+        what.remove_prefix(bracket + 2);
+    if (const std::size_t comma = what.find(", "); what.starts_with(position) && comma != what.npos)
+        what.remove_prefix(comma + 2);
+    return "not JSON: " + std::string(what);
 }
 
 std::string ReadCommand(const Json& json, Request& request) {

@@ -17,6 +17,7 @@ using Clock = std::chrono::steady_clock;
 constexpr std::size_t linesBetweenLooks = 256; // at the clock
 constexpr auto barInterval = std::chrono::milliseconds(100);
 constexpr int barWidth = 40;
+constexpr std::size_t bytesWrittenAtOnce = 1U << 16U;
 
 // A line that is overwritten in place: the part done, if the size of the input is known, and the count.
 class ProgressBar {
@@ -68,7 +69,13 @@ double SizeOf(std::ifstream& file) {
     return std::max(size, 0.0);
 }
 
+bool IsBlank(std::string_view line) {
+    return line.find_first_not_of(" \t\r") == line.npos;
+}
+
 int Finish(const RunSummary& summary) {
+    if (!summary.written)
+        return OutputFailure();
     if (summary.failed == 0)
         return exitGood;
     PrintErrorLine(std::to_string(summary.failed) + " of " + std::to_string(summary.lines)
@@ -83,20 +90,26 @@ RunSummary RunRequests(Program& program, const std::string& database, std::istre
     RunSummary summary;
     ProgressBar bar(progress);
     double bytes = 0;
-    std::string line;
-    while (std::getline(requests, line)) {
+    std::string line, pending;
+    const auto write = [&answers, &pending] {
+        answers.write(pending.data(), static_cast<std::streamsize>(pending.size())).flush();
+        pending.clear();
+        return answers.good();
+    };
+    while (summary.written && std::getline(requests, line)) {
         bytes += static_cast<double>(line.size()) + 1;
-        const Answer answer = AnswerLine(program, database, line);
-        answers << JsonText(answer.json) << '\n';
-        if (progress.flushEachLine)
-            answers.flush();
-        if (!answers)
-            break; // nobody reads on
+        if (IsBlank(line))
+            continue;
+        Answer answer = AnswerLine(program, database, line);
         ++summary.lines;
         summary.failed += answer.exitStatus != exitGood ? 1 : 0;
+        pending += TakeJsonText(std::move(answer));
+        pending += '\n';
+        if (progress.flushEachLine || pending.size() >= bytesWrittenAtOnce)
+            summary.written = write();
         bar.Advance(summary.lines, bytes);
     }
-    answers.flush();
+    summary.written = summary.written && write();
     return summary;
 }
 

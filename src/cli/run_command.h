@@ -11,7 +11,7 @@ namespace orva {
 
 struct RunSummary {
     std::size_t lines = 0, failed = 0;
-    int firstFailureStatus = exitGood;
+    bool written = true; // false: the answers could not be written, and the run ended there
 };
 
 // How a run is shown while it goes on.
@@ -22,7 +22,8 @@ struct RunProgress {
 };
 
 // Answers each line of `requests` with one line of `answers`, in order. A line that cannot be answered gives
-// {"error": ...} and the run goes on. `database` holds for requests that name none.
+// {"error": ...} and the run goes on; a blank one is passed over. `database` holds for requests that name
+// none.
 RunSummary RunRequests(Program& program, const std::string& database, std::istream& requests,
                        std::ostream& answers, RunProgress progress);
 

@@ -31,6 +31,13 @@ std::string FileToOpen(const std::string& database) {
     return {here.begin(), here.end()};
 }
 
+// Boxes name the file as it was given.
+void NameAsGiven(std::vector<Message>& messages, std::string_view opened, std::string_view given) {
+    for (Message& message : messages)
+        if (const std::size_t at = message.text.find(opened); at != message.text.npos)
+            message.text.replace(at, opened.size(), given);
+}
+
 // The reference window: taking a kind settles the normal pressure, then the fields are written.
 void ApplyReference(const ReferenceOptions& options, ReferencePoint& reference) {
     if (options.kind) {
@@ -70,8 +77,11 @@ Workspace::Workspace(const Machine& machine, ProgramRunner& runner)
 
 std::optional<Failure> Workspace::Open(const std::string& database) {
     dialogs.fileName = FileToOpen(database);
-    if (!OpenDatabaseDialog(session))
+    if (!OpenDatabaseDialog(session)) {
+        if (!database.empty())
+            NameAsGiven(dialogs.messages, *dialogs.fileName, database);
         return FailureFrom(exitDataError, dialogs.messages, "the database cannot be opened");
+    }
     start = SessionRecords::Of(session);
     return std::nullopt;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagrams/thermal_sections.h"
 
-#include <array>
+#include <cmath>
 
 #include "thermo/cubic_equation.h"
 #include "thermo/saturation.h"
@@ -71,10 +71,12 @@ TieLine IsothermPvTieLine(CurveRun& run) {
     const SaturationResult saturation = EosSaturationPressure(run.model, run.T);
     if (saturation.failed)
         return tie;
-    tie.failed = false;
     tie.x1 = static_cast<float>(run.model.work.Roots[0] * run.options.volumeFactor);
     tie.x2 = static_cast<float>(run.model.work.Roots[2] * run.options.volumeFactor);
     tie.y1 = tie.y2 = static_cast<float>(saturation.value * run.options.pFactor);
+    tie.failed = !std::isfinite(tie.x1 + tie.x2 + tie.y1); // a vapour volume beyond single precision
+    if (tie.failed)
+        tie.x1 = tie.x2 = tie.y1 = tie.y2 = 0;
     return tie;
 }
 

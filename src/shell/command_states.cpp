@@ -157,7 +157,7 @@ constexpr EnablingRule enablingRules[] = {
     {BatchModeOff, "mnuCalc", 0, Name, Always, "T, rho      => p, Zustand L/V     + thermod. Fu."},
     {BatchModeOff, "mnuCalc", 2, Name, Always, "T, p         => rho, Zustand L/V  + thermod. Fu."},
     {BatchModeOff, "mnuCalc", 3, Name, Always, "p, rho      => T, Zustand L/V     + thermod. Fu."},
-    {BatchModeOff, "mnuCalc", 15, Enable, Always},
+    {BatchModeOff, "mnuCalc", 15, Enable, IsCubic},
     {BatchModeOff, "mnuCalc", 16, Enable, Always},
 };
 // clang-format on

@@ -78,16 +78,17 @@ bool OpenDatabaseDialog(Session& session) {
 }
 
 bool AcceptSubstance(Session& session, int listIndex) {
+    SubstanceData trial;
+    if (LoadSubstanceRecord(session.database, listIndex, session.state.englishText, trial).readError) {
+        session.dialogs.Show(RecordUnreadableMessage(listIndex)); // nothing of the session is lost
+        return false;
+    }
     session.ResetModelState();
     if (AskDeleteBatchData(session.state, session.dialogs))
         session.batch.rows.resize(1);
     SubstanceData& substance = session.model.substance;
     const SubstanceLoadResult loaded =
         LoadSubstanceRecord(session.database, listIndex, session.state.englishText, substance);
-    if (loaded.readError) {
-        session.dialogs.Show(RecordUnreadableMessage(listIndex));
-        return false;
-    }
     session.state.substanceIndex = static_cast<std::int16_t>(listIndex);
     if (loaded.criticalDataMissing) {
         session.dialogs.Show(CriticalDataMissingMessage(substance));

@@ -46,7 +46,7 @@ std::string BatchText(const Session& session) {
     if (CharacterCount(state.batchDate) > 2)
         text += "\n    vom " + state.batchDate;
     text += "\n    mit " + count + " Datensätzen" + BatchSubstanceText(session);
-    return text + "\n    Dateikommentar: " + state.batchComment + "\n";
+    return text + "\n    Dateikommentar:" + state.batchComment + "\n";
 }
 
 } // namespace
@@ -70,12 +70,12 @@ Message EosParametersMessage(const Session& session) {
     const auto single = [&](double x) { return General(static_cast<float>(x), session.style); };
     std::string text = "Parameter "
                        + std::string(Trim(session.names.EosNames.at(static_cast<std::size_t>(selection.eos))))
-                       + "\nfür " + session.model.substance.name + "\n";
+                       + "\nfür " + session.model.substance.name;
     text += "\na0 = " + single(eos.a0) + "\na1 = " + single(eos.nA);
     text += "\nb0 = " + single(eos.b0) + "\nb1 = " + single(eos.nB);
     text += "\nc0 = " + single(eos.c0) + "\nc1 = " + single(eos.nC);
     text += "\nd0 = " + single(eos.d0) + "\nd1 = " + single(eos.nD);
-    text += "\n\nkrit. Volumen aus T(cr) und p(cr) berechnet:";
+    text += "\nkrit. Volumen aus T(cr) und p(cr) berechnet:";
     text += "\n         v(cr)/m^3/kmol = " + single(eos.vCritCalc);
     text += "\n(entspr. rho(cr)/kg/m^3 = " + single(eos.rhoCritCalc) + ")";
     return {title, text, MessageIcon::Information};

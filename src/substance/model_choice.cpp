@@ -52,6 +52,8 @@ ModelChoice::ModelChoice(SubstanceModel& substanceModel, NameTables& nameTables,
 void ModelChoice::Open() {
     ModelSelection& selection = model.selection;
     before = selection;
+    eosBefore = model.eos;
+    voHalmeBefore = model.voHalme;
     virialConstants.reset();
     loading = true;
     EOSKombi = pKombi = HLVKombi = WatsonKombi = cpKombi = {};
@@ -317,7 +319,9 @@ EosDetermination ModelChoice::DetermineParameters() {
     }
     if (determine)
         return determine(model, selection.eos);
-    return {.failed = !DetermineEosParameters(model, selection.eos), .messages = {}};
+    if (DetermineEosParameters(model, selection.eos))
+        return {};
+    return {.failed = true, .messages = {EosConstantsFailedMessage()}};
 }
 
 bool ModelChoice::OKModell(Dialogs& dialogs) {
@@ -332,6 +336,8 @@ bool ModelChoice::OKModell(Dialogs& dialogs) {
 // Code and nonCubic are read off the restored choice, so they go back with it.
 void ModelChoice::cmdEsc() {
     model.selection = before;
+    model.eos = eosBefore;
+    model.voHalme = voHalmeBefore;
 }
 
 StatusPanels ModelChoice::Panels() const {

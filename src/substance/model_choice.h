@@ -98,8 +98,11 @@ private:
 
     SubstanceModel& model;
     NameTables& names;
-    Determine determine;                                  // empty: closed formulas alone
-    ModelSelection before;                                // as it was on opening
+    Determine determine; // empty: closed formulas alone
+    // As they were on opening: cmdEsc brings them back, also after constants that could not be determined.
+    ModelSelection before;
+    EosParameters eosBefore;
+    VoHalmeParameters voHalmeBefore;
     std::optional<std::array<double, 3>> virialConstants; // entered, not yet in force
 };
 

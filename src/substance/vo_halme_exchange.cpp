@@ -198,10 +198,17 @@ EosDetermination RunVoHalmeSolver(SubstanceModel& model, int eosType, const Mach
     return {};
 }
 
+Message EosConstantsFailedMessage() {
+    return {std::string(refused), "Fehler bei der EOS-Parameterberechnung", MessageIcon::Stop};
+}
+
 EosDetermination DetermineEosConstants(SubstanceModel& model, int eosType, const Machine& machine,
                                        ProgramRunner& runner) {
-    if (!IsVoHalme(eosType))
-        return {!DetermineEosParameters(model, eosType), {}};
+    if (!IsVoHalme(eosType)) {
+        if (DetermineEosParameters(model, eosType))
+            return {};
+        return {true, {EosConstantsFailedMessage()}};
+    }
     model.eos.AlphaForm = 1;
     model.eos.vCritCalc = model.eos.rhoCritCalc = 0;
     ClearEosParameters(model.eos);
@@ -209,8 +216,7 @@ EosDetermination DetermineEosConstants(SubstanceModel& model, int eosType, const
     if (!determination.failed)
         determination.failed = !SetVoHalmeConstants(model);
     if (determination.failed)
-        determination.messages.push_back(
-            {std::string(refused), "Fehler bei der EOS-Parameterberechnung", MessageIcon::Stop});
+        determination.messages.push_back(EosConstantsFailedMessage());
     return determination;
 }
 

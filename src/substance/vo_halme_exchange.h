@@ -38,6 +38,9 @@ struct EosDetermination {
     std::vector<Message> messages; // boxes, in their order
 };
 
+// The box for constants that cannot be determined.
+Message EosConstantsFailedMessage();
+
 // Writes the request, runs the program, takes zeta, m1 to m3 and, for row 8, k into model.voHalme. An old
 // result is deleted first, so that a program that does not run cannot be mistaken for one that did. Waits up
 // to 100 s. The constants read are not checked for plausibility.

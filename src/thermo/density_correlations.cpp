@@ -64,7 +64,7 @@ DensityResult SolidDensity(const SubstanceData& substance, float temperature) {
         rho = c.s1 + c.s2 * T + c.s3 * T * T + c.s4 * T * T * T;
     else if (c.Tlo == 0 && c.s1 > missingValue)
         rho = c.s1 + c.s2 * T;
-    result.rho = static_cast<float>(Finite(rho, result.failed));
+    result.rho = Finite(static_cast<float>(rho), result.failed);
     result.deviation = RangeDeviationIfGiven(T, c.Tlo, c.Thi);
     return result;
 }

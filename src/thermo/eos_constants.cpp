@@ -108,7 +108,8 @@ bool DetermineEosParameters(SubstanceModel& model, int eosType) {
         RedlichKwongConstants(model, family == CubicFamily::Soave);
     else if (family == CubicFamily::PengRobinson)
         PengRobinsonConstants(model);
-    if (!std::isfinite(eos.a0) || !std::isfinite(eos.b0) || !std::isfinite(eos.vCritCalc)) {
+    if (!std::isfinite(eos.a0) || !std::isfinite(eos.nA) || !std::isfinite(eos.b0)
+        || !std::isfinite(eos.vCritCalc)) {
         ClearEosParameters(eos);
         eos.vCritCalc = eos.rhoCritCalc = 0;
         return false;

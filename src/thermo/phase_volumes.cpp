@@ -40,7 +40,8 @@ void VirialVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& stat
     state.rhoV = model.substance.molarMass / state.vV;
     state.rhoL = 0;
     state.vL = 0;
-    if (!std::isfinite(state.vV) || !std::isfinite(state.rhoV)) {
+    // The truncated series has no volume at high pressure where B is negative.
+    if (!(state.vV > 0) || !std::isfinite(state.vV) || !std::isfinite(state.rhoV)) {
         state.vV = state.rhoV = 0;
         state.failed = true;
     }
@@ -136,7 +137,7 @@ void EosPhaseVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& st
     const CubicSolution cubic = SolveEosCubic(model, T, p);
     state.rootCount = cubic.rootCount;
     state.failed = cubic.failed;
-    if (model.work.Roots[0] <= model.eos.B) {
+    if (model.work.Roots[0] <= model.eos.B || model.work.Roots[0] <= 0) {
         state.failed = true;
         return;
     }

@@ -232,7 +232,8 @@ template<class Search> SaturationResult RunSearch(SubstanceModel& model, const S
         s.Advance();
         if (SameSingle(s.value, search.critical)) {
             result.value = s.value;
-            return result.failed ? Failure(result) : result;
+            result.failed = result.failed || cubic.rootCount != 3; // no volumes to go with it
+            return result;
         }
         if (s.value < smallestIterate)
             s.RestartNearZero();

@@ -60,6 +60,8 @@ double BisectSlope(const EosParameters& eos, double T, double negative, double p
 double UnstableVolume(const EosParameters& eos, double T, double vCrit) {
     double best = 0;
     double bestSlope = 0;
+    if (!(eos.A > 0 && eos.B > 0))
+        return 0;
     for (double v = eos.B * 1.02; v < 40 * vCrit; v *= 1.01) {
         const double slope = PressureSlope(eos, T, v);
         if (slope > bestSlope) {

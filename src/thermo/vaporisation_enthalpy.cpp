@@ -237,6 +237,8 @@ VaporisationDbResult VaporisationEnthalpyDb(const SubstanceData& substance, doub
     if (!(c.Tcr > missingValue))
         return {0, true};
     const double Tr = T / c.Tcr;
+    if (!(Tr <= 1))
+        return {0, true};
     const double exponent = c.C + c.D * Tr + c.E * (Tr * Tr) + c.F * (Tr * Tr * Tr);
     const double h = c.A * std::exp(-c.B * Tr) * std::pow(1 - Tr, exponent);
     if (!std::isfinite(h))
@@ -249,7 +251,7 @@ VaporisationResult VaporisationEnthalpy(SubstanceModel& model, int vaporisationM
     VaporisationResult result;
     result.T = request.T;
     result.p = request.p;
-    if (request.T > model.substance.Tc || (Missing(request.T) && Missing(request.p))) {
+    if (!(request.T <= model.substance.Tc)) {
         result.failed = true;
         return result;
     }

@@ -167,8 +167,8 @@ double FrostKalkwarfSlope(const SubstanceData& substance, const FrostKalkwarfBlo
                           int equation) {
     const FrostKalkwarfForm form(block, equation == vpFrostKalkwarf);
     const double p = VapourPressure(substance, T, equation).value;
-    // Kept on purpose: C - T, where the pressure equation has C + T. It matters only for a stored C other
-    // than 0.
+    // Kept on purpose: C - T, where the pressure equation has C + T. It matters only where the working C is
+    // not 0.
     const double t = form.C - T;
     const double X =
         -form.B * ln10 / (t * t) + form.G * ln10 + form.I * form.H * ln10 * std::pow(T, form.I - 1);

@@ -119,10 +119,12 @@ TEST(PointInput, ShowsTheLastDirectInput) {
     const SubstanceData butane = Butane();
     const Options options;
     BatchDataSet batch;
-    batch.rows[0].T = 310.5;
-    PointInput input(kindTP, butane, options, batch);
-    EXPECT_EQ(input.Lines()[0].text, "310.5");
+    batch.rows[0].T = 300.123456789;
+    batch.rows[0].rhoV = 0.3F;
+    PointInput input(kindTRho, butane, options, batch);
+    EXPECT_EQ(input.Lines()[0].text, "300.123456789");
     EXPECT_EQ(input.Lines()[1].text, "");
+    EXPECT_EQ(input.Lines()[2].text, "0.3");
 }
 
 TEST(ResultWindow, NamesTheCalculationInItsCaption) {

@@ -44,8 +44,8 @@ TEST(OptionTable, PutsTheSameRequestTogetherFromTextAndFromJson) {
                                                            {"environment", "280,99"},
                                                            {"unit-basis", "3"},
                                                            {"volume-basis", "1"},
-                                                           {"extended", "4"},
-                                                           {"function-list", "true"}};
+                                                           {"extended", "1"},
+                                                           {"function-list", "false"}};
     Request fromText;
     fromText.command = Command::Point;
     Json json{{"command", "point"}};
@@ -63,7 +63,7 @@ TEST(OptionTable, PutsTheSameRequestTogetherFromTextAndFromJson) {
     EXPECT_EQ(fromJson.request.context.models.eosPriority, false);
     EXPECT_EQ(fromJson.request.context.models.virial, (std::array<double, 3>{-0.7, 0, 1e-3}));
     EXPECT_EQ(fromJson.request.context.reference.kind, 10);
-    EXPECT_TRUE(fromJson.request.context.display.functionList);
+    EXPECT_FALSE(fromJson.request.context.display.functionList);
     EXPECT_EQ(fromJson.request.point.T, 300.25);
     EXPECT_EQ(fromText.point.p, 100.0);
 }
@@ -105,6 +105,7 @@ TEST(Requests, AreRefusedWithAReasonForAnyBrokenLine) {
     EXPECT_THAT(error("{"), testing::StartsWith("not JSON: "));
     EXPECT_THAT(error(""), testing::StartsWith("not JSON: "));
     EXPECT_THAT(error("\xFF\xFE"), testing::StartsWith("not JSON: "));
+    EXPECT_THAT(error("nonsense"), testing::StartsWith("not JSON: column 2: syntax error"));
     EXPECT_EQ(error("[]"), "a request is an object in braces");
     EXPECT_EQ(error("{}"), "the key command is missing or not a text");
     EXPECT_EQ(error(R"({"command":"run"})"), "unknown command \"run\"");
@@ -126,6 +127,13 @@ TEST(Requests, AreCheckedForWhatTheirKindTakes) {
     EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"method":"partial")"),
               "option method: partial is not available for kind 3");
     EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"method":"global")"), "");
+    for (const char* level : {"2", "3", "4"})
+        EXPECT_EQ(error(std::string(R"("kind":3,"T":300,"p":1,"extended":)") + level),
+                  "option extended: only 1 is available for kind 3");
+    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"extended":1)"), "");
+    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"function-list":true)"),
+              "option function-list is not available for kind 3");
+    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"function-list":false)"), "");
 }
 
 } // namespace

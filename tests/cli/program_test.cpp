@@ -48,8 +48,9 @@ TEST_F(CliProgram, RefusesADatabaseThatIsMissingEmptyTruncatedOrForeign) {
         const ProcessResult result = process.Run("list --database " + name);
         EXPECT_EQ(result.exitStatus, 3) << name;
         EXPECT_TRUE(result.HasOneErrorLine()) << result.error;
-        EXPECT_THAT(result.error, HasSubstr(name + " nicht gefunden bzw. leer"));
+        EXPECT_THAT(result.error, HasSubstr("Datenbank " + name + " nicht gefunden bzw. leer"));
         EXPECT_EQ(result.Answer()["messages"][0]["title"], "Ausführung nicht möglich");
+        EXPECT_EQ(result.Answer()["messages"][0]["text"], "Datenbank " + name + " nicht gefunden bzw. leer");
     }
 }
 
@@ -165,18 +166,63 @@ TEST_F(CliProgram, AFailedPointHasExitStatusOneAndItsAnswer) {
 }
 
 TEST_F(CliProgram, RefusesWrongUsageInOneLine) {
-    for (const char* arguments :
-         {"", "frobnicate", "point", "point --substance n-Butan --kind 3 --T 300", "list --nonsense",
-          "point --substance n-Butan --kind 8 --T 300 --p 1", "curve --substance n-Butan --type 32000",
-          "point --substance n-Butan --kind 3 --T 300 --p 1 --T 310",
-          "point --substance n-Butan --kind 3 --T x --p 1",
-          "curve --substance n-Butan --type 1 --window 1,0,0,1",
-          "curve --substance n-Butan --type 1 --mode sideways",
-          "point --substance n-Butan --kind 3 --T 300 --p 1 --virial 1,2,3",
-          "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 10"}) {
+    for (const char* arguments : {"",
+                                  "frobnicate",
+                                  "point",
+                                  "point --substance n-Butan --kind 3 --T 300",
+                                  "list --nonsense",
+                                  "point --substance n-Butan --kind 8 --T 300 --p 1",
+                                  "curve --substance n-Butan --type 32000",
+                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --T 310",
+                                  "point --substance n-Butan --kind 3 --T x --p 1",
+                                  "curve --substance n-Butan --type 1 --window 1,0,0,1",
+                                  "curve --substance n-Butan --type 1 --mode sideways",
+                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --virial 1,2,3",
+                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 10",
+                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 9 --format text",
+                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 9 --format json",
+                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --extended 2",
+                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --function-list",
+                                  "curve --substance n-Butan --type 1 --extended 2",
+                                  "show",
+                                  "run"}) {
         const ProcessResult result = process.Run(arguments);
         EXPECT_EQ(result.exitStatus, 2) << arguments;
+        EXPECT_EQ(result.output, "") << arguments;
         EXPECT_TRUE(result.HasOneErrorLine()) << arguments << ": " << result.error;
+    }
+}
+
+TEST_F(CliProgram, AsksForAMissingArgumentByItsNameInTheUsage) {
+    const std::pair<const char*, const char*> missing[] = {
+        {"run", "FILE"}, {"find", "TEXT"}, {"show", "SUBSTANCE"}, {"models", "SUBSTANCE"}};
+    for (const auto& [command, argument] : missing) {
+        EXPECT_EQ(process.Run(command).error,
+                  "orva-cli: the argument " + std::string(argument) + " is missing\n");
+        EXPECT_THAT(process.Run(std::string(command) + " --help").output, HasSubstr(argument));
+    }
+    EXPECT_EQ(process.Run("find --text Butane").output, process.Run("find Butane").output);
+    EXPECT_EQ(process.Run("point --kind 3").error, "orva-cli: --substance is required\n");
+}
+
+TEST_F(CliProgram, PrintsNoJsonInTheTextFormat) {
+    const ProcessResult unknown =
+        process.Run("point --substance Nirgendwostoff --kind 3 --T 300 --p 1 --format text");
+    EXPECT_EQ(unknown.exitStatus, 3);
+    EXPECT_EQ(unknown.output, "");
+    EXPECT_THAT(unknown.error, HasSubstr("substance \"Nirgendwostoff\" not found"));
+    const ProcessResult failed =
+        process.Run("point --substance n-Butan --kind 3 --T 0 --p 100 --format text");
+    EXPECT_EQ(failed.exitStatus, 1);
+    EXPECT_THAT(failed.output, testing::Not(HasSubstr("{")));
+}
+
+TEST_F(CliProgram, SaysThatStandardOutputCannotBeWritten) {
+    process.Write("requests.jsonl", "{\"command\":\"find\",\"text\":\"Butane\"}\nnonsense\n");
+    for (const char* arguments : {"list", "run requests.jsonl", "run - < requests.jsonl", "--help"}) {
+        const ProcessResult result = process.Run(std::string(arguments) + " > /dev/full");
+        EXPECT_EQ(result.exitStatus, 3) << arguments;
+        EXPECT_EQ(result.error, "orva-cli: standard output cannot be written\n") << arguments;
     }
 }
 
@@ -192,7 +238,7 @@ TEST_F(CliProgram, AppliesTheModelsAndTheDisplay) {
     EXPECT_NE(process
                   .Run(point
                        + "--vapour-pressure KFW --cp 1 --vaporization 2 --reference-kind 2 "
-                         "--reference-state 273.15,100 --environment 280,100 --extended 4 --function-list")
+                         "--reference-state 273.15,100 --environment 280,100 --extended 1")
                   .exitStatus,
               2);
 }

@@ -65,21 +65,23 @@ TEST(RunCommand, GivesEachAnswerOfTheSingleCommandsToTheByte) {
     EXPECT_EQ(process.Shell("orva-cli run - < requests.jsonl").output, run.output);
 }
 
-TEST(RunCommand, GoesOnBehindABrokenLine) {
+TEST(RunCommand, GoesOnBehindABrokenLineAndPassesOverBlankOnes) {
     const CliProcess process;
     process.Write("requests.jsonl", "{\"command\":\"find\",\"text\":\"Butane\"}\n"
                                     "nonsense\n"
                                     "\n"
+                                    " \t\r\n"
                                     "{\"command\":\"find\",\"text\":\"Butane\",\"colour\":\"red\"}\r\n"
                                     "{\"command\":\"find\",\"text\":\"Butane\"}");
     const ProcessResult run = process.Run("run requests.jsonl");
     EXPECT_EQ(run.exitStatus, 1);
-    EXPECT_EQ(run.error, "orva-cli: 3 of 5 requests failed\n");
+    EXPECT_EQ(run.error, "orva-cli: 2 of 4 requests failed\n");
     const std::vector<std::string> answers = Lines(run.output);
-    ASSERT_EQ(answers.size(), 5U);
-    EXPECT_THAT(Json::parse(answers[1])["error"].get<std::string>(), testing::StartsWith("not JSON: "));
-    EXPECT_EQ(answers[3], R"({"error":"unknown key \"colour\" for command find"})");
-    EXPECT_EQ(answers[4], answers[0]);
+    ASSERT_EQ(answers.size(), 4U);
+    EXPECT_THAT(Json::parse(answers[1])["error"].get<std::string>(),
+                testing::StartsWith("not JSON: column 2: "));
+    EXPECT_EQ(answers[2], R"({"error":"unknown key \"colour\" for command find"})");
+    EXPECT_EQ(answers[3], answers[0]);
 }
 
 TEST(RunCommand, IsGoodWhenAllAnswersAre) {

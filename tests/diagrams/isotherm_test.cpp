@@ -250,6 +250,13 @@ TEST(Isotherm, WithoutAnEquilibriumPressureThereAreNoPoints) {
     EXPECT_EQ(drawn.outcome.status, curveOutsideWindow);
 }
 
+TEST(Isotherm, HasNoTieLineToAVolumeBeyondSinglePrecision) {
+    MethaneDiagram d;
+    const Drawn drawn = Draw(d, 8);
+    EXPECT_TRUE(drawn.outcome.tie.failed);
+    EXPECT_EQ(drawn.outcome.tie.x2, 0);
+}
+
 TEST(Isotherm, WindowWithoutExtentLeavesEverythingUntouched) {
     MethaneDiagram d;
     Drawn drawn = Draw(d, 250);

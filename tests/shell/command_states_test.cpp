@@ -190,6 +190,15 @@ TEST_F(Commands, BatchModeRenamesAndCloses) {
     EXPECT_TRUE(Allowed("mnuCalc", 16));
 }
 
+TEST_F(Commands, LeavingBatchModeKeepsTheGlobalVesselClosedWithoutACubicEquation) {
+    selection.nonCubic = true;
+    ReachModels();
+    Enter(SessionEvent::BatchModeOn);
+    Enter(SessionEvent::BatchModeOff);
+    EXPECT_FALSE(Allowed("mnuCalc", 15));
+    EXPECT_TRUE(Allowed("mnuCalc", 16));
+}
+
 TEST_F(Commands, ACommandWithoutAnActionStaysDisabledInItsPlace) {
     ReachModels();
     EXPECT_TRUE(Allowed("mnuOptions"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "shell/road.h"
 #include "shell/status_texts.h"
 #include "substance/substance_loading.h"
@@ -118,6 +120,21 @@ TEST_F(Road, ASubstanceWithoutCriticalDataStaysLoadedWithItsWarning) {
     EXPECT_EQ(session.model.substance.name, "Stoff ohne kritische Daten");
 }
 
+TEST_F(Road, ADamagedRecordLeavesTheSubstanceInForce) {
+    std::vector<DatabaseRecord> records = SampleRecords();
+    records[1].values[6] = std::numeric_limits<float>::quiet_NaN();
+    WriteFile(machine.InstallationFolder() / "ORVA.Q05", DatabaseBytes(records));
+    ASSERT_TRUE(OpenDatabase(session, "ORVA.Q05"));
+    ASSERT_TRUE(AcceptSubstance(session, 1));
+    EXPECT_FALSE(AcceptSubstance(session, 2));
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].text,
+              "Der Datensatz 2 der Datenbank ist beschädigt und kann nicht gelesen werden.");
+    EXPECT_EQ(session.model.substance.name, "n-Butan");
+    EXPECT_EQ(session.state.substanceIndex, 1);
+    EXPECT_EQ(session.statusPanels[0], "n-Butan");
+}
+
 TEST_F(Road, AsksAboutLoadedSeriesWhenTheSubstanceChanges) {
     OpenSample();
     session.state.batchRowCount = 2;
@@ -214,10 +231,10 @@ TEST_F(Road, ShowsTheConstantsOfTheEquation) {
     ASSERT_TRUE(DetermineEosParameters(session.model, eosVanDerWaals));
     // a = 27/64 R^2 Tc^2/pc = 1388.5585, b = R Tc/(8 pc) = 0.1163957, vc = 3/8 R Tc/pc = 0.3491873
     EXPECT_EQ(EosParametersMessage(session).title, " Parameter der generalisierten Zustandsgleichung ");
-    EXPECT_EQ(EosParametersMessage(session).text, "Parameter CEOS van der Waals\nfür n-Butan\n"
+    EXPECT_EQ(EosParametersMessage(session).text, "Parameter CEOS van der Waals\nfür n-Butan"
                                                   "\na0 = 1388.559\na1 = 0\nb0 = 0.1163957\nb1 = 0"
                                                   "\nc0 = 0\nc1 = 0\nd0 = 0\nd1 = 0"
-                                                  "\n\nkrit. Volumen aus T(cr) und p(cr) berechnet:"
+                                                  "\nkrit. Volumen aus T(cr) und p(cr) berechnet:"
                                                   "\n         v(cr)/m^3/kmol = 0.3491873"
                                                   "\n(entspr. rho(cr)/kg/m^3 = 166.45)");
 }

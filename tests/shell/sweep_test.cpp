@@ -95,11 +95,12 @@ TEST_F(MasterDatabase, GivesNothingButFiniteStates) {
 void CheckSaturation(SubstanceModel& model) {
     if (model.selection.nonCubic)
         return;
-    for (const double Tr : {0.4, 0.45, 0.55, 0.65, 0.75, 0.85, 0.95, 0.99, 0.9995}) {
+    for (const double Tr : {0.4, 0.45, 0.55, 0.65, 0.75, 0.85, 0.95, 0.99, 0.9995, 0.99999}) {
         const double T = Tr * model.substance.Tc;
         const SaturationResult pressure = EosSaturationPressure(model, T);
         ASSERT_FALSE(pressure.failed) << Name(model, T, 0);
         ASSERT_GT(pressure.value, 0) << Name(model, T, 0);
+        ASSERT_GT(model.work.Roots[2], model.work.Roots[0]) << Name(model, T, pressure.value);
         const SaturationResult back = EosSaturationTemperature(model, pressure.value);
         ASSERT_FALSE(back.failed) << Name(model, T, pressure.value);
         ASSERT_NEAR(back.value, T, 0.002 * T) << Name(model, T, pressure.value);

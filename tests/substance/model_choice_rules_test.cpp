@@ -189,7 +189,10 @@ TEST_F(ModelWindowRules, AFailureOfTheConstantsKeepsTheWindowOpenAfterTheWarning
     window.Open();
     window.SelectVaporization(window.HLVKombi.RowOf(3));
     EXPECT_FALSE(window.OKModell(dialogs));
-    EXPECT_EQ(dialogs.shown.size(), 1U);
+    ASSERT_EQ(dialogs.shown.size(), 2U);
+    EXPECT_EQ(dialogs.shown[0].title, "WARNUNG");
+    EXPECT_EQ(dialogs.shown[1].title, "Ausführung nicht möglich");
+    EXPECT_EQ(dialogs.shown[1].text, "Fehler bei der EOS-Parameterberechnung");
 }
 
 TEST_F(ModelWindowRules, ThePanelsNameSubstanceAndModels) {

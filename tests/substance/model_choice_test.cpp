@@ -105,6 +105,24 @@ TEST_F(ModelWindow, ListsEquationsOfStateInTheirOrder) {
     EXPECT_EQ(all.EOSKombi.selected, 5);
 }
 
+TEST_F(ModelWindow, CancelAfterConstantsThatCouldNotBeDeterminedBringsTheOldOnesBack) {
+    ModelChoice first(model, names);
+    first.Open();
+    ASSERT_FALSE(first.DetermineParameters().failed);
+    const double a0 = model.eos.a0;
+    ASSERT_GT(a0, 0);
+    ModelChoice all(model, names, [](SubstanceModel& m, int) {
+        m.eos = {};
+        return EosDetermination{.failed = true, .messages = {EosConstantsFailedMessage()}};
+    });
+    all.Open();
+    all.SelectEos(all.EOSKombi.RowOf(eosVoHalme2));
+    EXPECT_TRUE(all.DetermineParameters().failed);
+    all.cmdEsc();
+    EXPECT_EQ(selection.eos, eosPengRobinson);
+    EXPECT_EQ(model.eos.a0, a0);
+}
+
 TEST_F(ModelWindow, LeavesOutVoHalmeUnlessItIsOffered) {
     window.Open();
     EXPECT_THAT(Numbers(window.EOSKombi), ElementsAre(0, 2, 3, 4, 5, 6, 10, 16, 11, 12, 13, 14, 15));

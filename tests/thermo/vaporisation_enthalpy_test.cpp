@@ -136,6 +136,8 @@ TEST(VaporisationEnthalpyDb, EndsAtItsReferenceTemperature) {
     EXPECT_EQ(VaporisationEnthalpyDb(model.substance, model.substance.hVapFunction.Tcr).h, 0);
     EXPECT_FALSE(VaporisationEnthalpyDb(model.substance, model.substance.hVapFunction.Tcr).failed);
     EXPECT_TRUE(VaporisationEnthalpyDb(model.substance, 426).failed);
+    model.substance.hVapFunction = {1000, 0, 2, 0, 0, 0, 400, 135, 399}; // a whole exponent hides the sign
+    EXPECT_TRUE(VaporisationEnthalpyDb(model.substance, 420).failed);
     model.substance.hVapFunction = {};
     EXPECT_TRUE(VaporisationEnthalpyDb(model.substance, 300).failed);
 }
@@ -177,6 +179,11 @@ TEST(VaporisationEnthalpy, NothingGivenFails) {
     for (int way = 0; way <= 8; ++way)
         EXPECT_TRUE(VaporisationEnthalpy(model, way, vpWagner, {}).failed) << way;
     EXPECT_TRUE(AtT(model, 0, 300).failed);
+    EXPECT_EQ(InfoText(VaporisationEnthalpy(model, 2, vpWagner, {}).info), "kein p verfügbar");
+    VaporisationRequest row;
+    row.rowT = 300;
+    row.rowP = 257;
+    EXPECT_FALSE(VaporisationEnthalpy(model, 2, vpNone, row).failed);
 }
 
 } // namespace

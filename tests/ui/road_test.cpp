@@ -111,6 +111,46 @@ TEST_F(WholeRoad, DrawsAnIsothermFromTheMenu) {
     EXPECT_EQ(Find<frmGraph2D>(), graph);
 }
 
+TEST_F(WholeRoad, ADiagramDoesNotOutliveItsSubstance) {
+    AcceptModels("n-Butan");
+    Choose("mnuGraf(0)", "mnuGraf_sub_cut(1)");
+    auto* graph = Find<frmGraph2D>();
+    ASSERT_NE(graph, nullptr);
+    Find<frmTpVSInputBox>()->close();
+    AcceptModels("n-Butan"); // the same again leaves it
+    EXPECT_TRUE(graph->isVisible());
+    ASSERT_NE(ChooseSubstance("Methan"), nullptr);
+    EXPECT_FALSE(graph->isVisible());
+}
+
+TEST_F(WholeRoad, ADiagramDoesNotOutliveItsEquationOfState) {
+    AcceptModels("n-Butan");
+    Choose("mnuGraf(0)", "mnuGraf_sub_cut(1)");
+    auto* graph = Find<frmGraph2D>();
+    Find<frmTpVSInputBox>()->close();
+    Command("mnuModel")->trigger();
+    auto* models = Wait<frmQModell>();
+    ASSERT_NE(models, nullptr);
+    auto* combo = In<QComboBox>(models, "EOSKombi");
+    combo->setCurrentIndex(combo->findText("CEOS van der Waals"));
+    emit combo->activated(combo->currentIndex());
+    ClickButton(models, "OKModell");
+    EXPECT_FALSE(graph->isVisible());
+}
+
+TEST_F(WholeRoad, AnExtremeNumberDoesNotWidenTheWindow) {
+    AcceptModels("n-Butan");
+    ASSERT_NE(StartTP(), nullptr);
+    const int width = Find<frmCalcOut>()->width();
+    Type("1e308");
+    Press(Qt::Key_Return);
+    Type("1e308");
+    Press(Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(Find<frmCalcOut>()->width(), width);
+    EXPECT_LE(Find<frmCalcOut>()->minimumSizeHint().width(), width);
+}
+
 TEST_F(WholeRoad, OpeningAnotherDatabaseStartsItAgain) {
     AcceptModels("n-Butan");
     ASSERT_TRUE(Command("mnuCalcMain")->isEnabled());

@@ -61,6 +61,7 @@ QLabel* frmCalcOut::AddLabel(const char* name) {
     auto* label = new QLabel(this);
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
+    label->setMinimumWidth(1); // a number of 300 digits must not widen the window
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <cmath>
 
 #include "text/number_input.h"
 
@@ -51,8 +52,10 @@ frmCoord::frmCoord(DiagramWindow& theWindow, QWidget* parent) : QDialog(parent),
 
 void frmCoord::Take() {
     std::array<double, 4> values{};
-    for (std::size_t i = 0; i < limits.size(); ++i)
-        values[i] = ParseNumber(limits[i]->text().toStdString());
+    for (std::size_t i = 0; i < limits.size(); ++i) {
+        const std::string text = limits[i]->text().toStdString();
+        values[i] = IsNumber(text) ? ParseNumber(text) : std::nan(""); // below no limit
+    }
     if (window.cmdCoord_OK({values[0], values[1], values[2], values[3]}))
         accept();
 }

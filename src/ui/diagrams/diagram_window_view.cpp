@@ -269,8 +269,10 @@ void frmGraph2D::mnuBildFile() {
         dialogs.Show({"Ausführung nicht möglich", "Bildfiles haben die Endung .svg, .pdf oder .png."});
     else if (!SaveImage(window.Chart(), path, style))
         dialogs.Show({"Ausführung nicht möglich", "Die Datei kann nicht geschrieben werden:\n" + *chosen});
-    else
-        session.dirDiagram2D = path.parent_path().string();
+    else {
+        const std::u8string folder = path.parent_path().u8string();
+        session.dirDiagram2D.assign(folder.begin(), folder.end());
+    }
 }
 
 void frmGraph2D::mnuBildClipboard() {

@@ -22,8 +22,8 @@ bool TakesValue(const DiagramRow& row) {
 
 } // namespace
 
-DiagramDesk::DiagramDesk(Session& session, QWidget* owner)
-    : QObject(owner), window(RecordsOf(session), session.dialogs),
+DiagramDesk::DiagramDesk(Session& ownSession, QWidget* owner)
+    : QObject(owner), session(ownSession), window(RecordsOf(session), session.dialogs),
       input(RecordsOf(session), window, session.dialogs),
       graph(new frmGraph2D(window, session.dialogs, owner)), valueBox(new frmTpVSInputBox(input, graph)) {
     connect(graph, &frmGraph2D::InputWanted, this, &DiagramDesk::AskForValue);
@@ -37,9 +37,21 @@ DiagramDesk::~DiagramDesk() {
 void DiagramDesk::Open(const DiagramRow& row) {
     if (!window.Open(&row))
         return;
+    subject = CurrentSubject();
     BringToFront(*graph);
     if (TakesValue(row))
         AskForValue();
+}
+
+DiagramDesk::Subject DiagramDesk::CurrentSubject() const {
+    return {session.state.databaseFile, session.state.substanceIndex, session.model.selection.eos};
+}
+
+void DiagramDesk::CloseIfStale() {
+    if (graph == nullptr || CurrentSubject() == subject)
+        return;
+    valueBox->close();
+    graph->close();
 }
 
 void DiagramDesk::AskForValue() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string>
+
 #include <QObject>
 #include <QPointer>
 
@@ -16,15 +18,27 @@ class frmTpVSInputBox;
 class DiagramDesk : public QObject {
     Q_OBJECT
 public:
-    DiagramDesk(Session& session, QWidget* owner);
+    DiagramDesk(Session& ownSession, QWidget* owner);
     ~DiagramDesk() override;
 
     // Sets the diagram up, shows it, and asks for the T, p or v of the first curve where the type needs one.
     void Open(const DiagramRow& row);
+    // Closes both windows when substance or equation of state are no longer those that the heading names.
+    void CloseIfStale();
 
 private:
+    // What the curves of the open diagram belong to.
+    struct Subject {
+        std::string databaseFile;
+        int substanceIndex = 0;
+        int eos = 0;
+        bool operator==(const Subject&) const = default;
+    };
+    Subject CurrentSubject() const;
     void AskForValue();
 
+    Session& session;
+    Subject subject;
     DiagramWindow window;
     ValueInput input;
     QPointer<frmGraph2D> graph;

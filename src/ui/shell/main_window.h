@@ -64,6 +64,7 @@ private:
     void ChooseModels(const CommandRow& command);
     void Calculate(const CommandRow& command);
     void DrawDiagram(const CommandRow& command);
+    void CloseStaleDiagram();
     void ShowAbout(const CommandRow& command);
 
     void SwitchHint();

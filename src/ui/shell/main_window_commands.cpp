@@ -87,6 +87,7 @@ void mdiORVA::OpenDatabaseFile(const CommandRow&) {
     CloseForms({"frmStoffWahl"});
     if (!OpenDatabaseDialog(session))
         return;
+    CloseStaleDiagram();
     Refresh();
     RunCommand(FindCommand("mnuStoff"));
 }
@@ -116,6 +117,11 @@ void mdiORVA::DrawDiagram(const CommandRow& command) {
     diagramDesk->Open(*row);
 }
 
+void mdiORVA::CloseStaleDiagram() {
+    if (diagramDesk != nullptr)
+        diagramDesk->CloseIfStale();
+}
+
 void mdiORVA::SwitchHint() {
     hint->setVisible(hint->isHidden());
 }
@@ -128,6 +134,7 @@ void mdiORVA::ChooseSubstance(const CommandRow&) {
         form, &frmStoffWahl::Accepted, this,
         [this] {
             CloseForms({"frmParinput", "frmCalcOut"});
+            CloseStaleDiagram();
             ChooseModels({});
         },
         Qt::QueuedConnection);
@@ -136,8 +143,10 @@ void mdiORVA::ChooseSubstance(const CommandRow&) {
 
 void mdiORVA::ChooseModels(const CommandRow&) {
     auto* form = new frmQModell(session, this);
-    connect(form, &frmQModell::Accepted, this,
-            [this](const StatusPanels& texts) { AcceptModels(session, texts); });
+    connect(form, &frmQModell::Accepted, this, [this](const StatusPanels& texts) {
+        AcceptModels(session, texts);
+        CloseStaleDiagram();
+    });
     connect(form, &QDialog::finished, this, [this] {
         CloseForms({"frmParinput", "frmCalcOut", "frmIsoCalc", "frmKessel"});
         Refresh();
