@@ -11,8 +11,12 @@ namespace orva {
 
 namespace {
 
-// X = x0 T^n.
+// X = x0 T^n; most parameters have n = 0.
 void PowerSlopes(double X, double n, double T, double& dX, double& d2X) {
+    if (n == 0) {
+        dX = d2X = 0;
+        return;
+    }
     dX = n * X / T;
     d2X = (n - 1) * dX / T;
 }

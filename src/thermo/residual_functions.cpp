@@ -48,7 +48,8 @@ void EqualPoles(const FugacityTerms& f, ResidualTable& r) {
     r.d2lnPhidT2 = t3 - ((e1 - e2) - (e3 - e4));
 }
 
-// d/dT of (ln(v + X) + X-part) for one pole X with its slopes; `x` is v + X.
+// First and second derivative along the isobar of the part of ln phi that belongs to one pole at v = -X; `x`
+// is v + X.
 struct PoleSlopes {
     double first, second;
 
