@@ -92,6 +92,7 @@ void ShowResultLabel(QLabel& label, const ResultLabel& content) {
 QLabel* MutedLabel(const QString& text, QWidget* parent) {
     auto* label = new MutedTextLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
+    label->setContentsMargins(0, 2, 0, 0); // the dots of capital umlauts reach above the line
     return label;
 }
 
