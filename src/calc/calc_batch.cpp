@@ -3,6 +3,8 @@
 
 #include "calc/point_kinds.h"
 #include "calc/report_blocks.h"
+#include "calc/report_extended.h"
+#include "calc/report_functions.h"
 #include "calc/units.h"
 #include "state/constants.h"
 
@@ -20,7 +22,29 @@ struct KindRow {
 };
 
 constexpr KindRow kindTable[] = {
+    {kindTRho, CalculateFromTRho},
+    {kindTRhoLiquid, CalculateFromTRho},
     {kindTP, CalculateFromTP},
+    {kindSaturationPressure, CalculateSaturation},
+    {kindSaturationTemperature, CalculateSaturation},
+    {kindVaporisationAtT, CalculateVaporisation},
+    {kindVaporisationAtP, CalculateVaporisation},
+    {kindFunctions, CalculateFunctions},
+    {kindVesselGlobal, CalculateVessel},
+    {kindVesselPartial, CalculateVessel},
+    {kindVirialComparison, CompareVirialCoefficients},
+    {kindPRho, CalculateFromPRho},
+    {kindLiquidDensity, CalculateDatabaseFunction},
+    {kindVaporisationDb, CalculateDatabaseFunction},
+    {kindIdealGasCp, CalculateDatabaseFunction},
+    {kindLiquidCp, CalculateDatabaseFunction},
+    {kindSolidCp, CalculateDatabaseFunction},
+    {kindFrostKalkwarf, CalculateDatabaseFunction},
+    {kindWagner, CalculateDatabaseFunction},
+    {kindAntoineLow, CalculateDatabaseFunction},
+    {kindAntoineHigh, CalculateDatabaseFunction},
+    {kindWithoutFunction, CalculateDatabaseFunction},
+    {kindSolidDensity, CalculateDatabaseFunction},
 };
 
 const KindRow* FindKind(int kind) {
@@ -109,6 +133,8 @@ void CommonEnd(PointRun& run) {
         BlankRecord(result.record);
     } else {
         result.record.T = result.record.p = result.record.v = 0;
+        AppendExtendedBlocks(run);
+        AppendFunctionList(run);
         AppendParameterTrailer(run);
     }
     if (result.hasV && !result.hasL)
@@ -137,9 +163,10 @@ PointResult CalcBatch(CalculationContext& context, int kind, int dataSet, RunOpt
     }
     context.calculation.CurrentDataSet = dataSet;
     PrepareRun(context);
-    PointRun run{context, result, options, 0, 0, {}};
+    PointRun run{context, result, options};
     row->calculate(run);
-    CommonEnd(run);
+    if (!run.endsAtOnce)
+        CommonEnd(run);
     return result;
 }
 

@@ -8,6 +8,7 @@
 #include "state/options.h"
 #include "state/substance_model.h"
 #include "text/number_format.h"
+#include "thermo/caloric_state.h"
 
 namespace orva {
 
@@ -25,6 +26,8 @@ struct CalculationContext {
 struct RunOptions {
     bool suppressReport = false; // numbers only
     bool warn = true;            // allow the hint on the triple point
+    // The ambient state of the exergies, where the caller knows it: many points share it.
+    const AmbientState* ambient = nullptr;
 };
 
 // One calculation of kind `kind` for row `dataSet` of the data series, 0 for the direct input. The same input

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace orva {
 
@@ -31,6 +32,7 @@ enum CalcKindNumber : std::int16_t {
     kindWagner = 20,
     kindAntoineLow = 21,
     kindAntoineHigh = 22,
+    kindWithoutFunction = 23, // a database function that does not exist
     kindSolidDensity = 24
 };
 
@@ -54,6 +56,22 @@ struct EosStateRecord {
     double pEos = 0;
 };
 
+// A vessel as the user gave it.
+struct VesselInput {
+    float m = 0;           // kg
+    float V = 0;           // m^3
+    float T = 0;           // K
+    bool byAmount = false; // the mass was given as kmol
+};
+
+// What the drawing of the vessel shows.
+struct VesselResult {
+    double T = 0, p = 0;
+    float liquidPercent = 0;
+    double fillPercent = 0;
+    std::string note; // "ERROR1", "ERROR2", "ERROR3" or empty
+};
+
 // The calculation in force and how it treats equilibrium.
 struct CalculationState {
     std::int16_t CalcKind = kindNone;
@@ -69,6 +87,8 @@ struct CalculationState {
     bool FunctionList = false;
     double diagramTemperature = 298.15; // K, for energies divided by R T
     EosStateRecord eosState;
+    VesselInput vessel;
+    VesselResult vesselResult;
 };
 
 } // namespace orva

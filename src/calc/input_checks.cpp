@@ -8,12 +8,6 @@ namespace orva {
 
 namespace {
 
-const BatchRow& CurrentRow(const PointRun& run) {
-    static const BatchRow none;
-    const auto index = static_cast<std::size_t>(run.context.calculation.CurrentDataSet);
-    return index < run.context.batch.rows.size() ? run.context.batch.rows[index] : none;
-}
-
 bool Refuse(PointRun& run, ResultLabel& label, std::string_view text) {
     label.text = text;
     label.colour = TextColour::Red;
@@ -48,6 +42,25 @@ bool TakePressure(PointRun& run, ResultLabel& label) {
         return Refuse(run, label, "kein p in diesem Datensatz");
     run.p = p;
     run.result.results[slotP] = p;
+    return true;
+}
+
+bool TakeDensity(PointRun& run, ResultLabel& label) {
+    const double rho = CurrentRow(run).rhoV;
+    if (!(rho >= missingValue))
+        return Refuse(run, label, "kein rho in diesem Datensatz");
+    run.rho = rho;
+    run.result.results[slotRhoGlobal] = rho;
+    run.result.results[slotVGlobal] =
+        run.context.model.substance.molarMass * run.context.options.volumeFactor / rho;
+    return true;
+}
+
+bool TakeLiquidDensity(PointRun& run, ResultLabel& label) {
+    const double rho = CurrentRow(run).rhoL;
+    if (!(rho >= missingValue))
+        return Refuse(run, label, "kein rho in diesem Datensatz");
+    run.rho = rho;
     return true;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "calc/report_blocks.h"
+#include "calc/point_run.h"
 
 namespace orva {
 
@@ -9,6 +9,9 @@ namespace orva {
 // false.
 bool TakeTemperature(PointRun& run, ResultLabel& label);
 bool TakePressure(PointRun& run, ResultLabel& label);
+bool TakeDensity(PointRun& run, ResultLabel& label);
+// The density of the liquid in its own column, which reaches no result slot.
+bool TakeLiquidDensity(PointRun& run, ResultLabel& label);
 
 // A property model failed: the report says so and turns red.
 void ReportFailure(PointRun& run, std::string_view message);

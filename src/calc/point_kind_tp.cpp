@@ -3,8 +3,10 @@
 
 #include "calc/input_checks.h"
 #include "calc/point_kinds.h"
+#include "calc/report_functions.h"
 #include "state/constants.h"
 #include "text/columns.h"
+#include "thermo/eos_temperature.h"
 #include "thermo/virial_equation.h"
 
 namespace orva {
@@ -33,58 +35,41 @@ void AppendCriticalPoint(PointRun& run) {
     }
 }
 
-void FillEosState(PointRun& run) {
-    const PhaseVolumes& phases = run.phases;
-    EosStateRecord& state = run.context.calculation.eosState;
-    const double RT = gasConstant * run.T;
-    state.T = static_cast<float>(run.T);
-    state.hasL = phases.hasL;
-    state.hasV = phases.hasV;
-    state.v = run.context.model.work.Roots;
-    state.rootIndex = phases.rootCount;
-    state.zV = static_cast<float>(run.p * phases.vV / RT);
-    state.zL = static_cast<float>(run.p * phases.vL / RT);
-    state.pEos = run.p;
+bool GivenPoint(PointRun& run) {
+    PointResult& result = run.result;
+    if (!TakeTemperature(run, result.par1) || !TakePressure(run, result.par2))
+        return false;
+    result.par1.text = TemperatureLabel(run);
+    result.par2.text = PressureLabel(run);
+    return true;
 }
 
-void RecordPhases(PointRun& run) {
-    const PhaseVolumes& phases = run.phases;
-    ResultRecord& record = run.result.record;
-    if (phases.hasL && phases.hasV)
-        record.phase = "V+L";
-    else if (phases.hasV)
-        record.phase = " V ";
-    else if (phases.hasL)
-        record.phase = " L ";
-    if (phases.hasV)
-        record.rhoV = static_cast<float>(phases.rhoV);
-    if (phases.hasL)
-        record.rhoL = static_cast<float>(phases.rhoL);
-    record.hLV = 0;
+// Phases and volumes at T, p; false and told in the report where the equation has none.
+bool SolvePhases(PointRun& run) {
+    EosPhaseVolumes(run.context.model, run.T, run.p, run.phases);
+    run.result.rootIndex = run.phases.rootCount;
+    if (run.phases.failed) {
+        ReportFailure(run, FailureNumber());
+        return false;
+    }
+    FillEosState(run, run.phases.rootCount);
+    return true;
 }
 
 void SolveAtTP(PointRun& run) {
-    PointResult& result = run.result;
     SubstanceModel& model = run.context.model;
-    const NumberStyle style = run.context.style;
-    if (!TakeTemperature(run, result.par1) || !TakePressure(run, result.par2))
+    if (!GivenPoint(run))
         return;
-    result.par1.text = "T = " + Format(run.T, "###0.000 K", style);
-    result.par2.text = "p = " + Format(run.p, "####0.000 kPa", style);
     if (NearCriticalPoint(run))
         AppendCriticalPoint(run);
     if (model.selection.nonCubic) {
         const auto B = static_cast<float>(VirialCoefficientB(model, model.selection.eos, run.T));
-        result.co2.text = " Virialkoeff. B = " + General(B, style) + "  m^3/kmol";
+        run.result.co2.text = " Virialkoeff. B = " + General(B, run.context.style) + "  m^3/kmol";
     }
-    EosPhaseVolumes(model, run.T, run.p, run.phases);
-    result.rootIndex = run.phases.rootCount;
-    result.co1.text = StatusText(run.phases);
-    if (run.phases.failed) {
-        ReportFailure(run, FailureNumber());
-        return;
-    }
-    FillEosState(run);
+    const bool solved = SolvePhases(run);
+    run.result.co1.text = StatusText(run.phases);
+    if (solved)
+        AssumeEquilibriumAt(run);
 }
 
 } // namespace
@@ -93,6 +78,37 @@ void CalculateFromTP(PointRun& run) {
     SolveAtTP(run);
     AppendDensityTable(run);
     RecordPhases(run);
+    run.result.record.hLV = 0;
+}
+
+void CalculateFromPRho(PointRun& run) {
+    PointResult& result = run.result;
+    if (!TakePressure(run, result.par1) || !TakeDensity(run, result.par2))
+        return;
+    result.par1.text = PressureLabel(run);
+    result.par2.text = DensityLabel(run);
+    const double T = EosTemperature(run.context.model, run.p, run.rho, false);
+    if (!(T > 0)) {
+        result.failed = true;
+        result.co2.colour = TextColour::Blue;
+        result.co2.text = " Fehler";
+        return;
+    }
+    run.T = T;
+    result.co2.reportBackground = true;
+    result.co2.text = " T = " + Format(T, "###0.000 K", run.context.style);
+    if (!SolvePhases(run))
+        return;
+    AppendDensityTable(run);
+    RecordPhases(run);
+    result.results[slotT] = T;
+    result.record.Tcalc = static_cast<float>(T);
+}
+
+void CalculateFunctions(PointRun& run) {
+    if (!GivenPoint(run) || !SolvePhases(run))
+        return;
+    AppendFunctionRows(run);
 }
 
 } // namespace orva

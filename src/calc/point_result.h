@@ -17,10 +17,27 @@ enum ResultSlot : std::size_t {
     slotP = 1,
     slotRhoGlobal = 2,
     slotVGlobal = 3,
-    slotVolumeV = 9,
-    slotVolumeL = 19,
+    slotRhoL = 4,
+    slotCpS = 5,
+    slotCpIdeal = 7,
+    slotVolumeV = 9,  // then h, s, g, u, a, eH, eU, cp, cV of the vapour
+    slotVolumeL = 19, // then the same of the liquid
+    slotCpL = 27,
+    slotVaporisationH = 29,
+    slotVaporisationS = 30,
+    slotAlphaV = 31, // then chi and beta
+    slotDeltaV = 34,
+    slotAlphaL = 35, // then chi and beta
+    slotDeltaL = 38,
+    slotSoundSpeedL = 39,
+    slotSoundSpeedV = 40,
     slotB = 41
 };
+
+// What `note` says.
+inline constexpr const char* noteExit = "EXIT";            // the caller gives up
+inline constexpr const char* noteBelowCoVolume = "ERROR1"; // liquid volume at or below the co-volume
+inline constexpr const char* noteVesselFull = "ERROR2";    // mean density at or above that of the liquid
 
 // The result of one data set, kept for the result list. Phase blocks are indexed 0 liquid, 1 vapour.
 struct ResultRecord {
@@ -41,7 +58,8 @@ struct ResultLabel {
     std::string text;
     TextColour colour = TextColour::Black;
     bool bold = false;
-    int size = 8; // points
+    int size = 8;                  // points
+    bool reportBackground = false; // stands on the colour of the report
 };
 
 // All that one calculation hands to the result window. Lines of the report end with "\r\n".

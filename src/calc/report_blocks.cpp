@@ -10,16 +10,7 @@ namespace orva {
 
 namespace {
 
-constexpr std::size_t labelWidth = 17;
 constexpr std::size_t valueWidth = 20;
-
-// The two value fields of a row: a blank field where there is no liquid, nothing where there is no vapour.
-std::string ValueFields(const PointRun& run, double liquid, double vapour) {
-    const NumberStyle style = run.context.style;
-    const std::string valL = run.phases.hasL ? General(static_cast<float>(liquid), style) : std::string();
-    const std::string valV = run.phases.hasV ? General(static_cast<float>(vapour), style) : std::string();
-    return FixedField(valL, valueWidth) + valV;
-}
 
 bool HasCubicTrailer(const PointRun& run) {
     const ModelSelection& selection = run.context.model.selection;
@@ -54,11 +45,11 @@ void AppendVirialCoefficient(PointRun& run) {
 
 } // namespace
 
-void AppendLine(PointRun& run, std::string_view line) {
-    if (run.options.suppressReport)
-        return;
-    run.result.report += line;
-    run.result.report += lineEnd;
+std::string ValueFields(const PointRun& run, double liquid, double vapour) {
+    const NumberStyle style = run.context.style;
+    const std::string valL = run.phases.hasL ? General(static_cast<float>(liquid), style) : std::string();
+    const std::string valV = run.phases.hasV ? General(static_cast<float>(vapour), style) : std::string();
+    return FixedField(valL, valueWidth) + valV;
 }
 
 void AppendDensityTable(PointRun& run) {
@@ -73,8 +64,13 @@ void AppendDensityTable(PointRun& run) {
         return;
     AppendLine(run, FixedField("Dichte", labelWidth)
                         + "rho/ (kg/m^3)  = " + ValueFields(run, phases.rhoL, phases.rhoV));
-    AppendLine(run, FixedField("Volumen", labelWidth) + "v/ (" + options.vUnit
-                        + ")  = " + ValueFields(run, displayedL, displayedV));
+    AppendVolumeRow(run);
+}
+
+void AppendVolumeRow(PointRun& run) {
+    const auto& results = run.result.results;
+    AppendLine(run, FixedField("Volumen", labelWidth) + "v/ (" + run.context.options.vUnit
+                        + ")  = " + ValueFields(run, results[slotVolumeL], results[slotVolumeV]));
 }
 
 void AppendParameterTrailer(PointRun& run) {

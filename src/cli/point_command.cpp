@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "calc/point_input.h"
+#include "calc/report_text.h"
 #include "cli/commands.h"
 #include "cli/json_writer.h"
 #include "shell/road.h"
@@ -57,7 +57,7 @@ std::string ResultText(const PointResult& result) {
     for (const char c : result.report)
         if (c != '\r')
             text += c;
-    return text;
+    return WithVisibleRules(text);
 }
 
 void TakeGivenValues(const PointOptions& point, BatchRow& row) {
@@ -68,16 +68,45 @@ void TakeGivenValues(const PointOptions& point, BatchRow& row) {
     row.rhoL = static_cast<float>(point.rhoLiquid.value_or(0));
 }
 
+void TakeVesselInput(const PointOptions& point, VesselInput& vessel) {
+    vessel.m = static_cast<float>(point.mass.value_or(0));
+    vessel.V = static_cast<float>(point.volume.value_or(0));
+    vessel.T = static_cast<float>(point.T.value_or(0));
+}
+
+// What the window would settle in `frmCalcIn`, with its own choices where nothing is given.
+void SettleMethod(const PointOptions& point, Session& session) {
+    CalculationState& calculation = session.calculation;
+    const int kind = calculation.CalcKind;
+    const bool settles = calculation.AssumeEquilibrium || kind == kindVesselPartial
+                         || (kind >= kindSaturationPressure && kind <= kindVaporisationAtP);
+    if (settles) {
+        CalculationInput input = MakeCalculationInput(session);
+        if (point.liquidDensity)
+            calculation.BensonLiquid = *point.liquidDensity == "benson";
+        if (point.referenceDensity) {
+            const auto& [T, p, rhoL, rhoV] = *point.referenceDensity;
+            calculation.referenceDensity = {static_cast<float>(T), static_cast<float>(p),
+                                            static_cast<float>(rhoL), static_cast<float>(rhoV)};
+        }
+        input.Accept();
+    }
+    if (point.method)
+        calculation.GlobalMethod = *point.method == "global";
+}
+
 } // namespace
 
 Answer PointCommand(Workspace& workspace, const Request& request) {
     if (const std::optional<Failure> failure = workspace.Prepare(request.context))
         return AnswerFor(*failure);
     Session& session = workspace.Records();
-    if (!DispatchCalculation(session, request.point.kind).showResult)
+    if (!SetCalculation(session, request.point.kind, request.point.assumeEquilibrium))
         return AnswerFor(
             FailureFrom(exitCalculationFailed, workspace.Messages(), "the calculation is not possible"));
+    SettleMethod(request.point, session);
     TakeGivenValues(request.point, session.batch.rows.front());
+    TakeVesselInput(request.point, session.calculation.vessel);
     CalculationContext context = session.Calculation();
     const PointResult result =
         CalcBatch(context, session.calculation.CalcKind, session.calculation.CurrentDataSet);

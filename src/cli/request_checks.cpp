@@ -8,56 +8,105 @@ namespace orva {
 
 namespace {
 
-// A value that the options of a point can give, and which calculations take it.
+// Which values a calculation needs and which it can take besides.
+struct KindValues {
+    int kind;
+    std::string_view needed;
+    std::string_view optional; // of the data row, where an equation gives nothing
+};
+
+// T, p, r density, l density of the liquid, m mass, V volume.
+constexpr KindValues kindValues[] = {
+    {kindTRho, "Tr", ""},
+    {kindTRhoLiquid, "Tl", ""},
+    {kindTP, "Tp", ""},
+    {kindSaturationPressure, "T", "p"},
+    {kindSaturationTemperature, "p", "T"},
+    {kindVaporisationAtT, "T", "p"},
+    {kindVaporisationAtP, "p", "T"},
+    {kindFunctions, "Tp", ""},
+    {kindVesselGlobal, "TmV", ""},
+    {kindVesselPartial, "TmV", ""},
+    {kindPRho, "pr", ""},
+};
+
+// Every kind that is not listed takes T alone.
+KindValues ValuesOf(int kind) {
+    for (const KindValues& row : kindValues)
+        if (row.kind == kind)
+            return row;
+    return {kind, "T", ""};
+}
+
 struct GivenValue {
+    char letter;
     std::string_view option;
     bool (*given)(const PointOptions&);
-    bool (*taken)(int kind);
 };
-
-constexpr bool TakesNone(int) {
-    return false;
-}
-constexpr bool TakesTP(int kind) {
-    return kind == kindTP;
-}
 
 constexpr GivenValue givenValues[] = {
-    {"T", [](const PointOptions& p) { return p.T.has_value(); }, TakesTP},
-    {"p", [](const PointOptions& p) { return p.p.has_value(); }, TakesTP},
-    {"rho", [](const PointOptions& p) { return p.rho.has_value(); }, TakesNone},
-    {"rho-liquid", [](const PointOptions& p) { return p.rhoLiquid.has_value(); }, TakesNone},
-    {"mass", [](const PointOptions& p) { return p.mass.has_value(); }, TakesNone},
-    {"volume", [](const PointOptions& p) { return p.volume.has_value(); }, TakesNone},
+    {'T', "T", [](const PointOptions& p) { return p.T.has_value(); }},
+    {'p', "p", [](const PointOptions& p) { return p.p.has_value(); }},
+    {'r', "rho", [](const PointOptions& p) { return p.rho.has_value(); }},
+    {'l', "rho-liquid", [](const PointOptions& p) { return p.rhoLiquid.has_value(); }},
+    {'m', "mass", [](const PointOptions& p) { return p.mass.has_value(); }},
+    {'V', "volume", [](const PointOptions& p) { return p.volume.has_value(); }},
 };
 
+bool Holds(std::string_view letters, char letter) {
+    return letters.find(letter) != std::string_view::npos;
+}
+
+bool IsDatabaseFunction(int kind) {
+    return kind >= kindLiquidDensity;
+}
+
 // The blocks and lists that a calculation can append to its report.
-std::string CheckDisplay(const DisplayOptions& display, const std::string& kind) {
-    if (display.extended != DisplayOptions().extended)
+std::string CheckDisplay(const PointOptions& point, const DisplayOptions& display, const std::string& kind) {
+    const int k = point.kind;
+    const bool extends = k != kindVaporisationAtT && k != kindVaporisationAtP && k != kindVirialComparison
+                         && !IsDatabaseFunction(k);
+    if (display.extended != DisplayOptions().extended && !extends)
         return "option extended: only 1 is available for " + kind;
-    if (display.functionList)
+    const bool lists = k <= kindSaturationTemperature || k == kindVesselGlobal;
+    if (display.functionList && !lists)
         return "option function-list is not available for " + kind;
     return {};
 }
 
-std::string CheckPoint(const PointOptions& point, const DisplayOptions& display) {
-    const auto kind = [&point] { return "kind " + std::to_string(point.kind); };
-    if (!IsKindAvailable(point.kind))
-        return "calculation " + kind() + " is not available";
-    if (point.assumeEquilibrium)
-        return "option assume-equilibrium is not available for " + kind();
-    if (point.method == "partial")
-        return "option method: partial is not available for " + kind();
-    if (point.liquidDensity || point.referenceDensity || point.referenceDensityProposal)
+// Where the partial method, or its densities, take part.
+std::string CheckMethod(const PointOptions& point, const std::string& kind) {
+    if (point.assumeEquilibrium && point.kind != kindTP)
+        return "option assume-equilibrium is not available for " + kind;
+    const bool partialOnly = point.kind == kindVesselPartial || point.assumeEquilibrium;
+    if (point.method == "global" && partialOnly)
+        return "option method: this calculation is partial";
+    if (point.method == "partial" && point.kind == kindVesselGlobal)
+        return "option method: kind 9 is global, kind 10 partial";
+    const bool densities = point.assumeEquilibrium || point.kind == kindVesselPartial
+                           || (point.kind >= kindSaturationPressure && point.kind <= kindVaporisationAtP);
+    if ((point.liquidDensity || point.referenceDensity || point.referenceDensityProposal) && !densities)
         return "options liquid-density and reference-density belong to the partial method, which is not "
                "available for "
-               + kind();
-    if (std::string error = CheckDisplay(display, kind()); !error.empty())
+               + kind;
+    return {};
+}
+
+std::string CheckPoint(const PointOptions& point, const DisplayOptions& display) {
+    const std::string kind = "kind " + std::to_string(point.kind);
+    if (!IsKindAvailable(point.kind))
+        return "calculation " + kind + " is not available";
+    if (std::string error = CheckMethod(point, kind); !error.empty())
         return error;
+    if (std::string error = CheckDisplay(point, display, kind); !error.empty())
+        return error;
+    const KindValues values = ValuesOf(point.kind);
     for (const GivenValue& value : givenValues) {
-        const bool taken = value.taken(point.kind);
-        if (taken != value.given(point))
-            return kind() + (taken ? " needs option " : " does not take option ") + std::string(value.option);
+        const bool given = value.given(point);
+        if (!given && Holds(values.needed, value.letter))
+            return kind + " needs option " + std::string(value.option);
+        if (given && !Holds(values.needed, value.letter) && !Holds(values.optional, value.letter))
+            return kind + " does not take option " + std::string(value.option);
     }
     return {};
 }

@@ -5,6 +5,7 @@
 #include "substance/substance_choice.h"
 #include "substance/substance_loading.h"
 #include "text/columns.h"
+#include "thermo/vaporisation_enthalpy.h"
 #include "thermo/vapour_pressure.h"
 
 namespace orva {
@@ -43,6 +44,40 @@ bool RefuseLiquidDensity(Session& session, int kind) {
         {"Ausführung nicht möglich", "nur möglich mit einer kubischen EOS", MessageIcon::Exclamation});
     session.calculation.CalcKind = kindNone;
     return true;
+}
+
+bool IsVessel(int kind) {
+    return kind == kindVesselGlobal || kind == kindVesselPartial;
+}
+
+bool AskForEquilibrium(Session& session) {
+    Question question;
+    question.title = "T-p-Vorgabe";
+    question.text = "Sollen die Vorgabewerte T, p ein V-L-Phasengleichgewicht beschreiben?\n"
+                    "ACHTUNG: Bei \"Ja\" wird die Existenz einer L-Phase vorausgesetzt\n"
+                    "und eine \"Partialberechnung\" durchgeführt.";
+    question.icon = MessageIcon::Exclamation;
+    question.yesIsDefault = false;
+    return session.dialogs.Ask(question);
+}
+
+// Calculations of equilibrium first settle how it is treated.
+bool AsksForMethod(const Session& session) {
+    const CalculationState& calculation = session.calculation;
+    switch (calculation.CalcKind) {
+    case kindSaturationPressure:
+    case kindSaturationTemperature:
+        return true;
+    case kindTP:
+        return calculation.AssumeEquilibrium;
+    case kindVaporisationAtT:
+    case kindVaporisationAtP:
+        return session.model.selection.vaporization == vaporisationBenson;
+    case kindVesselPartial:
+        return !session.options.batchMode;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -125,15 +160,44 @@ void AcceptModels(Session& session, const StatusPanels& panels) {
     SetDefaultRanges(session.model, session.options, session.ranges);
 }
 
-CalculationStart DispatchCalculation(Session& session, int kind) {
+bool SetCalculation(Session& session, int kind, bool assumeEquilibrium) {
     CalculationState& calculation = session.calculation;
     calculation.CalcKind = static_cast<std::int16_t>(kind == kindNone ? kindTRho : kind);
     calculation.AssumeEquilibrium = false;
     if (RefuseLiquidDensity(session, calculation.CalcKind) || !IsKindAvailable(calculation.CalcKind))
-        return {};
+        return false;
+    calculation.AssumeEquilibrium = assumeEquilibrium && calculation.CalcKind == kindTP;
     calculation.CurrentDataSet = 0;
-    calculation.InputContext = calculation.CalcKind + inputContextOffset;
-    return {true, !session.options.batchMode};
+    calculation.InputContext =
+        IsVessel(calculation.CalcKind) ? inputContextVessel : calculation.CalcKind + inputContextOffset;
+    calculation.GlobalMethod = calculation.CalcKind != kindVesselPartial && !session.model.selection.nonCubic;
+    return true;
+}
+
+CalculationStart DispatchCalculation(Session& session, int kind) {
+    const bool batch = session.options.batchMode;
+    const bool assumed = kind == kindTP && !batch && AskForEquilibrium(session);
+    if (!SetCalculation(session, kind, assumed))
+        return {};
+    CalculationStart start;
+    const CalculationState& calculation = session.calculation;
+    start.askForMethod = AsksForMethod(session);
+    if (start.askForMethod)
+        return start;
+    start.showResult = !IsVessel(calculation.CalcKind);
+    start.askForPoint = !batch;
+    return start;
+}
+
+CalculationInput MakeCalculationInput(Session& session) {
+    return {session.model, session.names, session.calculation};
+}
+
+CalculationStart StartAfterMethod(Session& session) {
+    CalculationState& calculation = session.calculation;
+    const bool vessel = IsVessel(calculation.CalcKind);
+    calculation.InputContext = vessel ? inputContextVessel : calculation.CalcKind + inputContextOffset;
+    return {false, !vessel, !session.options.batchMode};
 }
 
 void OpenCalculationMenu(Session& session) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "calc/calculation_input.h"
 #include "shell/session.h"
 #include "substance/model_choice.h"
 
@@ -33,15 +34,27 @@ ModelChoice MakeModelChoice(Session& session);
 // units and ranges.
 void AcceptModels(Session& session, const StatusPanels& panels);
 
-// The windows that a calculation opens.
+// The windows that a calculation opens, in this order.
 struct CalculationStart {
+    bool askForMethod = false; // `frmCalcIn` comes first, the others when it is left with OK
     bool showResult = false;
     bool askForPoint = false;
+
+    bool Opens() const { return askForMethod || showResult || askForPoint; }
 };
 
-// A command of the calculation menu: sets the kind, asks what has to be settled first, and tells which
-// windows open. Nothing opens for a kind that is refused.
+// A command of the calculation menu: sets the kind, asks whether T and p describe equilibrium, and tells
+// which windows open. Nothing opens for a kind that is refused.
 CalculationStart DispatchCalculation(Session& session, int kind);
+
+// The same with the answer known. False for a kind that is refused.
+bool SetCalculation(Session& session, int kind, bool assumeEquilibrium);
+
+// The rules of the window `frmCalcIn` on the records of the session.
+CalculationInput MakeCalculationInput(Session& session);
+
+// What opens when `frmCalcIn` was left with OK.
+CalculationStart StartAfterMethod(Session& session);
 
 // Opening the calculation menu: the hint on a missing data series, and the texts that follow the models.
 void OpenCalculationMenu(Session& session);

@@ -166,8 +166,8 @@ TEST(CalcBatch, EnergyFactorFollowsTheUnitBasis) {
 TEST(CalcBatch, RefusesAKindThatItDoesNotKnow) {
     Calculation c;
     CalculationContext context = c.Context();
-    EXPECT_TRUE(CalcBatch(context, 23, 0).failed);
-    EXPECT_FALSE(IsKindAvailable(23));
+    EXPECT_TRUE(CalcBatch(context, 25, 0).failed);
+    EXPECT_FALSE(IsKindAvailable(25));
     EXPECT_TRUE(IsKindAvailable(kindTP));
 }
 

@@ -12,6 +12,7 @@ TEST(PointInput, AsksForWhatTheKindNeeds) {
     const SubstanceData butane = Butane();
     const Options options;
     BatchDataSet batch;
+    CalculationState calculation;
     struct Shown {
         int kind;
         bool T, p, rhoV, rhoL;
@@ -21,7 +22,7 @@ TEST(PointInput, AsksForWhatTheKindNeeds) {
           Shown{kindTRhoLiquid, true, false, false, true}, Shown{kindPRho, false, true, true, false},
           Shown{kindSaturationTemperature, false, true, false, false},
           Shown{kindLiquidDensity, true, false, false, false}}) {
-        PointInput input(s.kind, butane, options, batch);
+        PointInput input(s.kind + inputContextOffset, {butane, options, batch, calculation});
         EXPECT_EQ(input.Lines()[0].visible, s.T) << s.kind;
         EXPECT_EQ(input.Lines()[1].visible, s.p) << s.kind;
         EXPECT_EQ(input.Lines()[2].visible, s.rhoV) << s.kind;
@@ -33,7 +34,8 @@ TEST(PointInput, LabelsItsLines) {
     const SubstanceData butane = Butane();
     Options options;
     BatchDataSet batch;
-    PointInput input(kindTRho, butane, options, batch);
+    CalculationState calculation;
+    PointInput input(kindTRho + inputContextOffset, {butane, options, batch, calculation});
     EXPECT_EQ(input.Title(), "Eingabe Direktberechnung");
     EXPECT_EQ(input.CommandText(), "&Berechnen");
     EXPECT_EQ(input.Lines()[0].label, "      T/K = ");
@@ -44,12 +46,12 @@ TEST(PointInput, LabelsItsLines) {
     EXPECT_EQ(input.Lines()[2].heading, " Eingabe mol. Volumen, vgl. \"Optionen\" ");
     EXPECT_EQ(input.Lines()[2].label, " V/m^3/kmol = ");
     options.volumeBasis = 1;
-    PointInput specific(kindTRho, butane, options, batch);
+    PointInput specific(kindTRho + inputContextOffset, {butane, options, batch, calculation});
     specific.SetVolumeInput(true);
     EXPECT_EQ(specific.Lines()[2].heading, "Eingabe spezif. Volumen, vgl. Optionen ");
     EXPECT_EQ(specific.Lines()[2].label, "  V/m^3/kg  = ");
     options.volumeBasis = 2;
-    PointInput reduced(kindTRho, butane, options, batch);
+    PointInput reduced(kindTRho + inputContextOffset, {butane, options, batch, calculation});
     reduced.SetVolumeInput(true);
     EXPECT_EQ(reduced.Lines()[2].heading, "Eingabe reduz. Volumen, vgl. Optionen ");
     EXPECT_EQ(reduced.Lines()[2].label, "  V/(m^3/m^3)= ");
@@ -59,7 +61,8 @@ TEST(PointInput, TakesCommaAndPoint) {
     const SubstanceData butane = Butane();
     const Options options;
     BatchDataSet batch;
-    PointInput input(kindTP, butane, options, batch);
+    CalculationState calculation;
+    PointInput input(kindTP + inputContextOffset, {butane, options, batch, calculation});
     input.Lines()[0].text = "300,25";
     input.Lines()[1].text = "1.5E2";
     EXPECT_FALSE(input.Accept());
@@ -71,9 +74,10 @@ TEST(PointInput, RefusesInputWithoutANumberAndChangesNothing) {
     const SubstanceData butane = Butane();
     const Options options;
     BatchDataSet batch;
+    CalculationState calculation;
     batch.rows[0].T = 280;
     for (const char* text : {"", "abc", "0", "-5", "1e-9"}) {
-        PointInput input(kindTP, butane, options, batch);
+        PointInput input(kindTP + inputContextOffset, {butane, options, batch, calculation});
         input.Lines()[0].text = text;
         input.Lines()[1].text = "";
         const auto message = input.Accept();
@@ -88,7 +92,8 @@ TEST(PointInput, AZeroTemperaturePassesTheSumAndIsReportedLater) {
     const SubstanceData butane = Butane();
     const Options options;
     BatchDataSet batch;
-    PointInput input(kindTP, butane, options, batch);
+    CalculationState calculation;
+    PointInput input(kindTP + inputContextOffset, {butane, options, batch, calculation});
     input.Lines()[0].text = "0";
     input.Lines()[1].text = "100";
     EXPECT_FALSE(input.Accept());
@@ -99,7 +104,8 @@ TEST(PointInput, TurnsAVolumeIntoADensity) {
     const SubstanceData butane = Butane();
     Options options;
     BatchDataSet batch;
-    PointInput input(kindTRho, butane, options, batch);
+    CalculationState calculation;
+    PointInput input(kindTRho + inputContextOffset, {butane, options, batch, calculation});
     input.SetVolumeInput(true);
     input.Lines()[0].text = "300";
     input.Lines()[2].text = "2";
@@ -107,7 +113,7 @@ TEST(PointInput, TurnsAVolumeIntoADensity) {
     EXPECT_FLOAT_EQ(batch.rows[0].rhoV, 58.1222F / 2);
     options.volumeBasis = 1;
     options.volumeFactor = 1 / 58.1222;
-    PointInput specific(kindTRho, butane, options, batch);
+    PointInput specific(kindTRho + inputContextOffset, {butane, options, batch, calculation});
     specific.SetVolumeInput(true);
     specific.Lines()[0].text = "300";
     specific.Lines()[2].text = "0.5";
@@ -119,9 +125,10 @@ TEST(PointInput, ShowsTheLastDirectInput) {
     const SubstanceData butane = Butane();
     const Options options;
     BatchDataSet batch;
+    CalculationState calculation;
     batch.rows[0].T = 300.123456789;
     batch.rows[0].rhoV = 0.3F;
-    PointInput input(kindTRho, butane, options, batch);
+    PointInput input(kindTRho + inputContextOffset, {butane, options, batch, calculation});
     EXPECT_EQ(input.Lines()[0].text, "300.123456789");
     EXPECT_EQ(input.Lines()[1].text, "");
     EXPECT_EQ(input.Lines()[2].text, "0.3");

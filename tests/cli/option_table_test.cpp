@@ -121,19 +121,44 @@ TEST(Requests, AreCheckedForWhatTheirKindTakes) {
     };
     EXPECT_EQ(error(R"("kind":3,"T":300)"), "kind 3 needs option p");
     EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"rho":2)"), "kind 3 does not take option rho");
-    EXPECT_EQ(error(R"("kind":23)"), "calculation kind 23 is not available");
-    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"assume-equilibrium":true)"),
-              "option assume-equilibrium is not available for kind 3");
-    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"method":"partial")"),
-              "option method: partial is not available for kind 3");
-    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"method":"global")"), "");
-    for (const char* level : {"2", "3", "4"})
-        EXPECT_EQ(error(std::string(R"("kind":3,"T":300,"p":1,"extended":)") + level),
-                  "option extended: only 1 is available for kind 3");
-    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"extended":1)"), "");
-    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"function-list":true)"),
-              "option function-list is not available for kind 3");
-    EXPECT_EQ(error(R"("kind":3,"T":300,"p":1,"function-list":false)"), "");
+    EXPECT_EQ(error(R"("kind":12)"), "calculation kind 12 is not available");
+    EXPECT_EQ(error(R"("kind":4,"T":300,"p":1)"), "");
+    EXPECT_EQ(error(R"("kind":9,"T":300,"mass":1)"), "kind 9 needs option volume");
+}
+
+TEST(Requests, AreCheckedForTheMethodOfTheirKind) {
+    const auto error = [](const std::string& keys) {
+        return RequestFromJson(R"({"command":"point","substance":"#1",)" + keys + "}").error;
+    };
+    const std::string tp = R"("kind":3,"T":300,"p":1)";
+    const std::string vessel = R"("T":300,"mass":1,"volume":1)";
+    EXPECT_EQ(error(tp + R"(,"assume-equilibrium":true)"), "");
+    EXPECT_EQ(error(R"("kind":4,"T":300,"assume-equilibrium":true)"),
+              "option assume-equilibrium is not available for kind 4");
+    EXPECT_EQ(error(tp + R"(,"assume-equilibrium":true,"method":"global")"),
+              "option method: this calculation is partial");
+    EXPECT_EQ(error(R"("kind":9,"method":"partial",)" + vessel),
+              "option method: kind 9 is global, kind 10 partial");
+    EXPECT_EQ(error(R"("kind":10,"method":"global",)" + vessel),
+              "option method: this calculation is partial");
+    EXPECT_EQ(error(R"("kind":10,"liquid-density":"database",)" + vessel), "");
+    EXPECT_EQ(error(tp + R"(,"reference-density":"proposal")"),
+              "options liquid-density and reference-density belong to the partial method, which is not "
+              "available for kind 3");
+}
+
+TEST(Requests, AreCheckedForWhatTheirReportCanShow) {
+    const auto error = [](const std::string& keys) {
+        return RequestFromJson(R"({"command":"point","substance":"#1",)" + keys + "}").error;
+    };
+    const std::string tp = R"("kind":3,"T":300,"p":1)";
+    for (const char* level : {"1", "2", "3", "4"})
+        EXPECT_EQ(error(tp + R"(,"extended":)" + level), "");
+    EXPECT_EQ(error(tp + R"(,"function-list":true)"), "");
+    EXPECT_EQ(error(R"("kind":6,"T":300,"extended":2)"), "option extended: only 1 is available for kind 6");
+    EXPECT_EQ(error(R"("kind":14,"T":300,"extended":2)"), "option extended: only 1 is available for kind 14");
+    EXPECT_EQ(error(R"("kind":8,"T":300,"p":1,"function-list":true)"),
+              "option function-list is not available for kind 8");
 }
 
 } // namespace

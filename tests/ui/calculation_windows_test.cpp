@@ -171,7 +171,9 @@ TEST(DensityInput, OffersAVolumeInstead) {
     const Options options;
     BatchDataSet batch;
     ScriptedDialogs dialogs;
-    frmParinput form(PointInput(kindTRho, substance, options, batch), dialogs);
+    CalculationState calculation;
+    frmParinput form(PointInput(kindTRho + inputContextOffset, {substance, options, batch, calculation}),
+                     dialogs);
     form.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&form));
     auto* density = form.findChild<QRadioButton*>("optRhoV(0)");

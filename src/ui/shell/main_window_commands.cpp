@@ -168,8 +168,8 @@ void mdiORVA::Calculate(const CommandRow& command) {
 }
 
 void mdiORVA::AskForPoint() {
-    const PointInput input(session.calculation.CalcKind, session.model.substance, session.options,
-                           session.batch);
+    const PointInput input(session.calculation.InputContext,
+                           {session.model.substance, session.options, session.batch, session.calculation});
     inputWindow = new frmParinput(input, session.dialogs, resultWindow);
     connect(inputWindow, &frmParinput::Accepted, this, [this] {
         resultWindow->raise();
