@@ -137,13 +137,11 @@ TEST(PointInput, ShowsTheLastDirectInput) {
 TEST(ResultWindow, NamesTheCalculationInItsCaption) {
     Calculation c;
     c.state.CalcKind = kindTP;
-    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).Caption(), "Ergebnis der Berechnung  T, p => rho");
+    EXPECT_EQ(ResultWindow(c.Context()).Caption(), "Ergebnis der Berechnung  T, p => rho");
     c.state.CalcKind = kindSaturationPressure;
-    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).Caption(),
-              "Ergebnis der Berechnung  T => p(LV) (Globalberechnung)");
+    EXPECT_EQ(ResultWindow(c.Context()).Caption(), "Ergebnis der Berechnung  T => p(LV) (Globalberechnung)");
     c.state.GlobalMethod = false;
-    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).Caption(),
-              "Ergebnis der Berechnung  T => p(LV) (Partialberechnung)");
+    EXPECT_EQ(ResultWindow(c.Context()).Caption(), "Ergebnis der Berechnung  T => p(LV) (Partialberechnung)");
 }
 
 TEST(ResultWindow, StatusLineShowsPointsUnderADecimalComma) {
@@ -151,7 +149,7 @@ TEST(ResultWindow, StatusLineShowsPointsUnderADecimalComma) {
     c.style.decimal = ',';
     c.model.selection.vaporPressure = vpWagner;
     EXPECT_EQ(
-        ResultWindow(c.Context(), c.model.substance).StatusLine(),
+        ResultWindow(c.Context()).StatusLine(),
         "CEOS Peng / Robinson; Wagner;  T(cr)/K = 425.13; p(cr)/kPa = 3796; v(cr, exp)/m^3/kmol= 0.2549; "
         "v(cr, calc)= 0.2862 ");
 }
@@ -160,7 +158,7 @@ TEST(ResultWindow, StatusLineLeavesOutWhatIsNotGiven) {
     SubstanceData bare = Butane();
     bare.vcDatabase = 0;
     Calculation c(eosIdealGas, bare);
-    EXPECT_EQ(ResultWindow(c.Context(), c.model.substance).StatusLine(),
+    EXPECT_EQ(ResultWindow(c.Context()).StatusLine(),
               "Idealgas-EOS; keine;  T(cr)/K = 425.13; p(cr)/kPa = 3796 ");
 }
 
@@ -169,7 +167,7 @@ TEST(ResultWindow, CalculatesTheRowInForce) {
     c.state.CalcKind = kindTP;
     c.batch.rows[0].T = 300;
     c.batch.rows[0].p = 100;
-    ResultWindow window(c.Context(), c.model.substance);
+    ResultWindow window(c.Context());
     EXPECT_EQ(window.Calculate().record.phase, " V ");
     EXPECT_EQ(window.Result().par1.text, "T = 300.000 K");
 }

@@ -33,7 +33,11 @@ frmParinput::frmParinput(PointInput pointInput, Dialogs& boxes, QWidget* parent)
     }
     column->addLayout(grid);
     if (input.TakesDensity())
-        AddVolumeChoice(*column);
+        AddChoice(*column, "optRhoV", {"Dichte", "Volumen"}, input.VolumeInput() ? 1 : 0,
+                  [this](int id) { input.SetVolumeInput(id == 1); });
+    if (input.IsVessel())
+        AddChoice(*column, "optm_n", {"Masse m", "Stoffmenge n"}, input.AmountInput() ? 1 : 0,
+                  [this](int id) { input.SetAmountInput(id == 1); });
     okButton->setText(ToQt(input.CommandText()));
     okButton->setObjectName(QStringLiteral("cmdParameter_OK"));
     okButton->setDefault(true);
@@ -52,23 +56,25 @@ frmParinput::frmParinput(PointInput pointInput, Dialogs& boxes, QWidget* parent)
     FocusFirstField();
 }
 
-void frmParinput::AddVolumeChoice(QLayout& column) {
+void frmParinput::AddChoice(QBoxLayout& column, const char* name, const std::array<const char*, 2>& texts,
+                            int chosen, std::function<void(int)> choose) {
     auto* group = new QButtonGroup(this);
     auto* row = new QHBoxLayout;
-    const char* const texts[] = {"Dichte", "Volumen"};
-    for (int i = 0; i < 2; ++i) {
-        auto* option = new QRadioButton(QLatin1String(texts[i]), this);
-        option->setObjectName(ControlName("optRhoV", i));
-        option->setChecked((i == 1) == input.VolumeInput());
+    for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
+        auto* option = new QRadioButton(QString::fromUtf8(texts[static_cast<std::size_t>(i)]), this);
+        option->setObjectName(ControlName(name, i));
+        option->setChecked(i == chosen);
         group->addButton(option, i);
         row->addWidget(option);
     }
     row->addStretch(1);
-    column.addItem(row);
-    connect(group, &QButtonGroup::idToggled, this, [this](int id, bool chosen) {
-        if (!chosen)
+    column.addLayout(row);
+    connect(group, &QButtonGroup::idToggled, this, [this, choose](int id, bool on) {
+        if (!on)
             return;
-        input.SetVolumeInput(id == 1);
+        for (std::size_t i = 0; i < fields.size(); ++i)
+            input.Lines()[i].text = FromQt(fields[i]->text());
+        choose(id);
         ShowLines();
     });
 }

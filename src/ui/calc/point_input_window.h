@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
+#include <QBoxLayout>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -30,7 +32,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void AddVolumeChoice(QLayout& column);
+    // Two options side by side; `choose` takes the index of the one that was chosen.
+    void AddChoice(QBoxLayout& column, const char* name, const std::array<const char*, 2>& texts, int chosen,
+                   std::function<void(int)> choose);
     void ShowLines();
     void CalculateNow();
     bool FocusNextField(QObject* from);

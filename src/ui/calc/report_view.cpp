@@ -7,6 +7,7 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include "calc/report_text.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -79,7 +80,8 @@ void ReportView::Show(const PointResult& result) {
     QPalette colours = palette();
     colours.setColor(QPalette::Text, ReportColour(result.reportColour, colours));
     Liste->setPalette(colours);
-    Liste->setPlainText(ToQt(result.report).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    Liste->setPlainText(
+        ToQt(WithVisibleRules(result.report)).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     PlaceHeads();
 }
 

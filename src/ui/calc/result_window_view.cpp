@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include <QCheckBox>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -15,29 +15,25 @@ namespace orva {
 
 namespace {
 
-struct ExtensionRow {
-    const char* name;
-    int index;
-    const char* text;
-};
+constexpr QSize startSize(860, 700);
+constexpr QColor diagnosisColour(192, 255, 192);
 
-constexpr QSize startSize(860, 660);
+constexpr const char* extensionTexts[] = {
+    "diff. Joule-Thomson-Koeffizient, Fugazitätskoeffizienten, mechanische Koeffizienten, "
+    "Residualfunktionen",
+    "Ableitungen nach T, p, v"};
 
-const ExtensionRow extensions[] = {
-    {"chkUHS", -1, "thermodynamische Funkt. h. s, g, u, a, ..."},
-    {"ResPlus", 1,
-     "diff. Joule-Thomson-Koeffizient, Fugazitätskoeffizienten, mechanische Koeffizienten, "
-     "Residualfunktionen"},
-    {"ResPlus", 2, "Ableitungen nach T, p, v"},
-};
+// Light green with dark text whatever the colours of the desktop.
+QString DiagnosisStyle() {
+    return QStringLiteral("background-color: %1; color: black;").arg(diagnosisColour.name());
+}
 
 } // namespace
 
 frmCalcOut::frmCalcOut(Session& ownSession, BusyCursor& cursor, QWidget* parent)
-    : QWidget(parent, Qt::Window), session(ownSession), busy(cursor),
-      model(session.Calculation(), session.model.substance), par1(AddLabel("par1")), par2(AddLabel("par2")),
-      co1(AddLabel("co1")), co2(AddLabel("co2")), statusZeile(MutedLabel(ToQt(model.StatusLine()), this)),
-      report(new ReportView(this)) {
+    : QWidget(parent, Qt::Window), session(ownSession), busy(cursor), model(session.Calculation()),
+      par1(AddLabel("par1")), par2(AddLabel("par2")), co1(AddLabel("co1")), co2(AddLabel("co2")),
+      statusZeile(MutedLabel(ToQt(model.StatusLine()), this)), report(new ReportView(this)) {
     setObjectName(QStringLiteral("frmCalcOut"));
     setWindowTitle(ToQt(model.Caption()));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -46,14 +42,18 @@ frmCalcOut::frmCalcOut(Session& ownSession, BusyCursor& cursor, QWidget* parent)
     statusZeile->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* column = new QVBoxLayout(this);
     column->setSpacing(8);
-    column->addWidget(InputFrame());
+    inputFrame = InputFrame();
+    column->addWidget(inputFrame);
     column->addWidget(co1);
     column->addWidget(co2);
     column->addWidget(report, 1);
     column->addWidget(ExtensionFrame());
+    column->addWidget(OutputFrame());
     column->addWidget(ProtocolFrame());
     column->addLayout(ButtonRow());
     column->addWidget(statusZeile);
+    ConnectControls();
+    ShowControls();
     resize(std::max(sizeHint().width(), startSize.width()), startSize.height());
 }
 
@@ -81,27 +81,44 @@ QGroupBox* frmCalcOut::InputFrame() {
     row->addSpacing(32);
     row->addWidget(par2);
     row->addStretch(1);
-    for (const auto& [name, text] : {std::pair{"cmdRueck", "< Zurück"}, {"cmdVor", "Vor >"}}) {
-        QPushButton* step = AddButton(name, QString::fromUtf8(text));
-        step->setEnabled(false);
+    cmdRueck = AddButton("cmdRueck", QStringLiteral("< &Zurück"));
+    cmdVor = AddButton("cmdVor", QStringLiteral("&Vor >"));
+    for (QPushButton* step : {cmdRueck, cmdVor})
         row->addWidget(step);
-    }
     return frame;
 }
 
-// The blocks that extend the report are no part of it yet, so their boxes cannot be ticked.
 QGroupBox* frmCalcOut::ExtensionFrame() {
     auto* frame = new QGroupBox(QStringLiteral("Erweiterte Ausgabe"), this);
     frame->setObjectName(QStringLiteral("fraCalcErweitert"));
     auto* column = new QVBoxLayout(frame);
     column->setSpacing(2);
-    for (const ExtensionRow& row : extensions) {
-        auto* box = new QCheckBox(QString::fromUtf8(row.text), frame);
-        box->setObjectName(row.index < 0 ? QString(QLatin1String(row.name))
-                                         : ControlName(row.name, row.index));
-        box->setEnabled(false);
+    const auto add = [&](const QString& name, const char* text) {
+        auto* box = new QCheckBox(QString::fromUtf8(text), frame);
+        box->setObjectName(name);
         column->addWidget(box);
+        return box;
+    };
+    chkUHS = add(QStringLiteral("chkUHS"), "thermodynamische Funkt. h. s, g, u, a, ...");
+    for (std::size_t i = 0; i < ResPlus.size(); ++i)
+        ResPlus[i] = add(ControlName("ResPlus", static_cast<int>(i) + 1), extensionTexts[i]);
+    return frame;
+}
+
+QGroupBox* frmCalcOut::OutputFrame() {
+    auto* frame = new QGroupBox(QStringLiteral("Ergebnisliste"), this);
+    frame->setObjectName(QStringLiteral("fraResultOutput"));
+    auto* row = new QHBoxLayout(frame);
+    const char* const texts[] = {"keine", "Drucker", "File"};
+    for (std::size_t i = 0; i < optResultPrint.size(); ++i) {
+        optResultPrint[i] = new QRadioButton(QLatin1String(texts[i]), frame);
+        optResultPrint[i]->setObjectName(ControlName("optResultPrint", static_cast<int>(i)));
+        row->addWidget(optResultPrint[i]);
     }
+    chkFuncPrint = new QCheckBox(QStringLiteral("mit Ableitungen und Funktionen"), frame);
+    chkFuncPrint->setObjectName(QStringLiteral("chkFuncPrint"));
+    row->addWidget(chkFuncPrint);
+    row->addStretch(1);
     return frame;
 }
 
@@ -126,18 +143,65 @@ QGroupBox* frmCalcOut::ProtocolFrame() {
 
 QLayout* frmCalcOut::ButtonRow() {
     auto* row = new QHBoxLayout;
-    for (const auto& [name, text] : {std::pair{"cmdIsoCalc", "Iso-Rechner"},
-                                     {"cmdCEOSDiagnose", "CEOS-Diagnose"},
-                                     {"cmdShowManuInput", "XY-Daten- Editor"}}) {
-        QPushButton* button = AddButton(name, QString::fromUtf8(text));
-        button->setEnabled(false);
+    cmdIsoCalc = AddButton("cmdIsoCalc", QStringLiteral("&Iso-Rechner"));
+    cmdCEOSDiagnose = AddButton("cmdCEOSDiagnose", QStringLiteral("CEOS-&Diagnose"));
+    QPushButton* editor = AddButton("cmdShowManuInput", QStringLiteral("XY-Daten- Editor"));
+    editor->setEnabled(false);
+    for (QPushButton* button : {cmdIsoCalc, cmdCEOSDiagnose, editor})
         row->addWidget(button);
-    }
     row->addStretch(1);
     QPushButton* close = AddButton("cmdCalc_OK", ToQt(model.CloseText()));
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     row->addWidget(close);
     return row;
+}
+
+void frmCalcOut::ConnectControls() {
+    connect(cmdRueck, &QPushButton::clicked, this, [this] { Step(model.StepBack()); });
+    connect(cmdVor, &QPushButton::clicked, this, [this] { Step(model.StepForward()); });
+    connect(chkUHS, &QCheckBox::clicked, this, [this](bool on) {
+        model.SetFunctionList(on);
+        Calculate();
+    });
+    for (int i = 0; i < static_cast<int>(ResPlus.size()); ++i)
+        connect(ResPlus[static_cast<std::size_t>(i)], &QCheckBox::clicked, this, [this, i](bool on) {
+            model.SetExtension(i + 1, on);
+            Calculate();
+        });
+    for (int i = 0; i < static_cast<int>(optResultPrint.size()); ++i)
+        connect(optResultPrint[static_cast<std::size_t>(i)], &QRadioButton::clicked, this, [this, i] {
+            model.SetOutput(static_cast<ResultOutput>(i));
+            ShowControls();
+        });
+    connect(chkFuncPrint, &QCheckBox::clicked, this, [this](bool on) { model.SetPrintFunctions(on); });
+    connect(cmdIsoCalc, &QPushButton::clicked, this, &frmCalcOut::IsoCalcWanted);
+    connect(cmdCEOSDiagnose, &QPushButton::clicked, this, &frmCalcOut::DiagnosisWanted);
+}
+
+void frmCalcOut::ShowControls() {
+    inputFrame->setTitle(ToQt(model.InputCaption()).trimmed());
+    cmdRueck->setEnabled(model.StepsEnabled());
+    cmdVor->setEnabled(model.StepsEnabled());
+    findChild<QGroupBox*>(QStringLiteral("fraCalcErweitert"))->setVisible(model.ExtensionVisible());
+    findChild<QGroupBox*>(QStringLiteral("fraCalcErweitert"))->setEnabled(model.ExtensionEnabled());
+    chkUHS->setVisible(model.FunctionListVisible());
+    chkUHS->setChecked(model.FunctionListChecked());
+    findChild<QGroupBox*>(QStringLiteral("fraResultOutput"))->setVisible(model.OutputVisible());
+    findChild<QGroupBox*>(QStringLiteral("fraProtokoll"))->setVisible(model.ProtocolVisible());
+    optResultPrint[static_cast<std::size_t>(model.Output())]->setChecked(true);
+    chkFuncPrint->setEnabled(model.PrintFunctionsEnabled());
+    cmdIsoCalc->setEnabled(model.IsoCalcEnabled());
+    const bool diagnosis = model.Result().diagnoseEnabled;
+    cmdCEOSDiagnose->setEnabled(diagnosis);
+    cmdCEOSDiagnose->setStyleSheet(diagnosis ? DiagnosisStyle() : QString());
+}
+
+void frmCalcOut::Step(StepResult step) {
+    if (step == StepResult::Beep) {
+        QApplication::beep();
+        return;
+    }
+    Calculate();
 }
 
 void frmCalcOut::keyPressEvent(QKeyEvent* event) {
@@ -157,7 +221,9 @@ void frmCalcOut::Calculate() {
     ShowResultLabel(*par2, result.par2);
     ShowResultLabel(*co1, result.co1);
     ShowResultLabel(*co2, result.co2);
+    co2->setAutoFillBackground(result.co2.reportBackground);
     report->Show(result);
+    ShowControls();
     for (const Message& message : result.messages)
         session.dialogs.Show(message);
 }

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
+
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 
 #include "calc/result_window.h"
 #include "shell/session.h"
@@ -22,7 +26,15 @@ public:
     // Runs the calculation in force and shows it, with its boxes.
     void Calculate();
 
+    // Shows what the model says of its controls.
+    void ShowControls();
+
     const ResultWindow& Model() const { return model; }
+
+signals:
+    // `cmdIsoCalc` and `cmdCEOSDiagnose`.
+    void IsoCalcWanted();
+    void DiagnosisWanted();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -30,6 +42,7 @@ protected:
 private:
     QGroupBox* InputFrame();
     QGroupBox* ExtensionFrame();
+    QGroupBox* OutputFrame();
     QGroupBox* ProtocolFrame();
     QLayout* ButtonRow();
     QLabel* AddLabel(const char* name);
@@ -38,7 +51,16 @@ private:
     Session& session;
     BusyCursor& busy;
     ResultWindow model;
+    void Step(StepResult result);
+    void ConnectControls();
+
     QLabel *par1, *par2, *co1, *co2, *statusZeile;
+    QGroupBox* inputFrame = nullptr;
+    QCheckBox* chkUHS = nullptr;
+    std::array<QCheckBox*, 2> ResPlus{};
+    std::array<QRadioButton*, 3> optResultPrint{};
+    QCheckBox* chkFuncPrint = nullptr;
+    QPushButton *cmdRueck = nullptr, *cmdVor = nullptr, *cmdIsoCalc = nullptr, *cmdCEOSDiagnose = nullptr;
     ReportView* report;
 };
 

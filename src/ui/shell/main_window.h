@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QToolBar>
 
+#include "shell/road.h"
 #include "shell/session.h"
 #include "ui/shell/busy_cursor.h"
 #include "ui/shell/command_menu.h"
@@ -68,7 +69,12 @@ private:
     void ShowAbout(const CommandRow& command);
 
     void SwitchHint();
+    void AskForMethod();
+    void StartCalculation(const CalculationStart& start);
+    void ShowResult();
     void AskForPoint();
+    void PointAccepted();
+    void CalculateVessel();
 
     Session& session;
     BusyCursor busy;

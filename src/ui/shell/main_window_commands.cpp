@@ -2,6 +2,7 @@
 #include "diagrams/catalogue.h"
 #include "shell/road.h"
 #include "shell/status_texts.h"
+#include "ui/calc/method_window.h"
 #include "ui/calc/point_input_window.h"
 #include "ui/calc/result_window_view.h"
 #include "ui/place_window.h"
@@ -11,6 +12,14 @@
 #include "ui/substance/substance_window.h"
 
 namespace orva {
+
+namespace {
+
+PointInputRecords InputRecords(Session& session) {
+    return {session.model.substance, session.options, session.batch, session.calculation};
+}
+
+} // namespace
 
 mdiORVA::Handler mdiORVA::HandlerOf(CommandAction action) {
     switch (action) {
@@ -157,32 +166,77 @@ void mdiORVA::ChooseModels(const CommandRow&) {
 
 void mdiORVA::Calculate(const CommandRow& command) {
     const CalculationStart start = DispatchCalculation(session, command.argument);
-    if (!start.showResult)
+    if (!start.Opens())
         return;
-    CloseForms({"frmCalcOut", "frmParinput"});
-    resultWindow = new frmCalcOut(session, busy, this);
-    ShowForm(resultWindow, Qt::NonModal);
-    resultWindow->Calculate();
-    if (start.askForPoint && resultWindow != nullptr)
+    CloseForms({"frmCalcOut", "frmParinput", "frmCalcIn", "frmKessel"});
+    if (start.askForMethod)
+        AskForMethod();
+    else
+        StartCalculation(start);
+}
+
+void mdiORVA::AskForMethod() {
+    auto* form = new frmCalcIn(MakeCalculationInput(session), InputRecords(session), session.dialogs, this);
+    // The next window waits until this one is gone, or it would lose the keyboard to the main window.
+    connect(
+        form, &QDialog::accepted, this, [this] { StartCalculation(StartAfterMethod(session)); },
+        Qt::QueuedConnection);
+    ShowForm(form, Qt::ApplicationModal);
+}
+
+void mdiORVA::StartCalculation(const CalculationStart& start) {
+    if (start.showResult)
+        ShowResult();
+    if (start.askForPoint)
         AskForPoint();
 }
 
+void mdiORVA::ShowResult() {
+    resultWindow = new frmCalcOut(session, busy, this);
+    ShowForm(resultWindow, Qt::NonModal);
+    resultWindow->Calculate();
+}
+
 void mdiORVA::AskForPoint() {
-    const PointInput input(session.calculation.InputContext,
-                           {session.model.substance, session.options, session.batch, session.calculation});
-    inputWindow = new frmParinput(input, session.dialogs, resultWindow);
-    connect(inputWindow, &frmParinput::Accepted, this, [this] {
-        resultWindow->raise();
-        resultWindow->Calculate();
-        if (inputWindow == nullptr)
-            return;
-        inputWindow->raise();
-        inputWindow->activateWindow();
-        inputWindow->FocusFirstField();
-    });
+    QWidget* owner = resultWindow != nullptr ? static_cast<QWidget*>(resultWindow) : this;
+    inputWindow = new frmParinput(PointInput(session.calculation.InputContext, InputRecords(session)),
+                                  session.dialogs, owner);
+    connect(inputWindow, &frmParinput::Accepted, this, &mdiORVA::PointAccepted);
     inputWindow->adjustSize();
-    PlaceBeside(*inputWindow, *resultWindow);
+    if (resultWindow != nullptr)
+        PlaceBeside(*inputWindow, *resultWindow);
     ShowForm(inputWindow, Qt::NonModal);
+}
+
+void mdiORVA::PointAccepted() {
+    if (session.calculation.InputContext == inputContextVessel) {
+        CalculateVessel();
+        return;
+    }
+    if (resultWindow == nullptr)
+        return;
+    resultWindow->raise();
+    resultWindow->Calculate();
+    if (inputWindow == nullptr)
+        return;
+    inputWindow->raise();
+    inputWindow->activateWindow();
+    inputWindow->FocusFirstField();
+}
+
+// The vessel is calculated first; where the partial method has no equilibrium the input stays.
+void mdiORVA::CalculateVessel() {
+    CalculationContext context = session.Calculation();
+    session.calculation.vesselResult = {};
+    const PointResult trial = CalcBatch(context, session.calculation.CalcKind, 0, {true, true});
+    if (trial.note == noteExit) {
+        for (const Message& message : trial.messages)
+            session.dialogs.Show(message);
+        return;
+    }
+    if (inputWindow != nullptr)
+        inputWindow->close();
+    ShowResult();
 }
 
 } // namespace orva
