@@ -36,6 +36,8 @@ public:
     bool TakesDensity() const;
     void SetVolumeInput(bool volume);
     bool VolumeInput() const { return volumeInput; }
+    // The options changed the units: a volume line takes its new ones, without the number typed in the old.
+    void FollowUnits();
 
     // Writes the numbers to row 0, the direct input. Without any number the box is returned and nothing is
     // changed.

@@ -21,6 +21,8 @@ public:
 
     // Puts the keyboard on the first field with its number selected.
     void FocusFirstField();
+    // The options changed the units of a volume.
+    void FollowUnits();
 
 signals:
     // The numbers stand in row 0 of the data series.
@@ -32,6 +34,7 @@ protected:
 private:
     void AddVolumeChoice(QLayout& column);
     void ShowLines();
+    void TakeTexts();
     void CalculateNow();
     bool FocusNextField(QObject* from);
 

@@ -148,6 +148,12 @@ void frmCalcOut::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmCalcOut::Calculate() {
+    Refresh();
+    for (const Message& message : model.Result().messages)
+        session.dialogs.Show(message);
+}
+
+void frmCalcOut::Refresh() {
     {
         const BusyScope scope(busy);
         model.Calculate();
@@ -158,8 +164,6 @@ void frmCalcOut::Calculate() {
     ShowResultLabel(*co1, result.co1);
     ShowResultLabel(*co2, result.co2);
     report->Show(result);
-    for (const Message& message : result.messages)
-        session.dialogs.Show(message);
 }
 
 } // namespace orva

@@ -21,6 +21,8 @@ public:
 
     // Runs the calculation in force and shows it, with its boxes.
     void Calculate();
+    // Runs it once more for other units or another reference point; its boxes have been seen.
+    void Refresh();
 
     const ResultWindow& Model() const { return model; }
 

@@ -8,8 +8,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "text/number_format.h"
-#include "text/number_input.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -21,7 +19,8 @@ constexpr const char* fieldLabels[] = {"b0 = ", "b1 = ", "b2 = "};
 
 } // namespace
 
-frmBParInput::frmBParInput(const std::array<double, 3>& values, QWidget* parent) : QDialog(parent) {
+frmBParInput::frmBParInput(const std::array<double, 3>& constants, Dialogs& boxes, QWidget* parent)
+    : QDialog(parent), input(constants), dialogs(boxes) {
     setObjectName(QStringLiteral("frmBParInput"));
     setWindowTitle(QStringLiteral("Eingabe: Virialkoeffizient B(T)"));
     auto* column = new QVBoxLayout(this);
@@ -33,7 +32,7 @@ frmBParInput::frmBParInput(const std::array<double, 3>& values, QWidget* parent)
     for (std::size_t i = 0; i < fields.size(); ++i) {
         fields[i] = new NumberField(this);
         fields[i]->setObjectName(ControlName("par", static_cast<int>(i)));
-        fields[i]->setText(ToQt(General(values[i])));
+        fields[i]->setText(ToQt(input.par[i]));
         fields[i]->installEventFilter(this);
         auto* label = new QLabel(QLatin1String(fieldLabels[i]), this);
         label->setFont(FixedPitchFont());
@@ -52,17 +51,24 @@ frmBParInput::frmBParInput(const std::array<double, 3>& values, QWidget* parent)
     column->addSpacing(6);
     column->addLayout(buttons);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    connect(ok, &QPushButton::clicked, this, &frmBParInput::TakeInput);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     fields.front()->setFocus();
     fields.front()->selectAll();
 }
 
-std::array<double, 3> frmBParInput::Values() const {
-    std::array<double, 3> values{};
+void frmBParInput::TakeInput() {
     for (std::size_t i = 0; i < fields.size(); ++i)
-        values[i] = ParseNumber(FromQt(fields[i]->text()));
-    return values;
+        input.par[i] = FromQt(fields[i]->text());
+    const auto refused = input.cmdParameter_OK();
+    if (!refused) {
+        accept();
+        return;
+    }
+    dialogs.Show(refused->message);
+    NumberField* field = fields[static_cast<std::size_t>(refused->field)];
+    field->setFocus();
+    field->selectAll();
 }
 
 bool frmBParInput::eventFilter(QObject* watched, QEvent* event) {
