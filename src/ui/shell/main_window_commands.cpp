@@ -190,11 +190,11 @@ void mdiORVA::ShowReference(const CommandRow&) {
 
 // What is shown must be in the units that are in force.
 void mdiORVA::FollowOptions(const OptionsChoice::Outcome& outcome) {
-    if (outcome.batchModeChanged)
+    if (outcome.unitsChanged && diagramDesk != nullptr)
+        diagramDesk->Close();
+    if (outcome.batchModeChanged) {
         CloseForms({"frmParinput", "frmCalcOut", "frmKessel"});
-    if (outcome.unitsChanged) {
-        if (diagramDesk != nullptr)
-            diagramDesk->Close();
+    } else if (outcome.unitsChanged) {
         if (inputWindow != nullptr)
             inputWindow->FollowUnits();
         if (resultWindow != nullptr)
