@@ -190,30 +190,14 @@ TEST_F(OptionsForm, KeysAloneDoIt) {
 
 TEST_F(OptionsForm, NoTwoControlsShareALetter) {
     Open();
-    QStringList letters;
-    const auto collect = [&](const QString& text) {
-        const QKeySequence letter = QKeySequence::mnemonic(text);
-        if (!letter.isEmpty())
-            letters << letter.toString();
-    };
-    for (const auto* button : form->findChildren<QAbstractButton*>())
-        collect(button->text());
-    for (const auto* label : form->findChildren<QLabel*>())
-        collect(label->text());
-    EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
-    EXPECT_EQ(letters.size(), 12);
+    ExpectOwnLetters(form, 12);
 }
 
 TEST_F(OptionsForm, TabWalksThroughTheControlsInTheirOrder) {
     Open();
-    QStringList walked;
-    for (int i = 0; i < 14 && !walked.contains(QApplication::focusWidget()->objectName()); ++i) {
-        walked << QApplication::focusWidget()->objectName();
-        Press(Qt::Key_Tab);
-    }
-    EXPECT_EQ(walked, (QStringList{"OptCalcMode(0)", "optMolarSpez(0)", "chkReduziert", "Slider1_punktdichte",
-                                   "Command1", "chkCurveTpRestricted", "chkSKurveOhneKonnode",
-                                   "chkPartialKurve", "cmdOK", "cmdClose"}));
+    EXPECT_EQ(WalkByTab(), (QStringList{"OptCalcMode(0)", "optMolarSpez(0)", "chkReduziert",
+                                        "Slider1_punktdichte", "Command1", "chkCurveTpRestricted",
+                                        "chkSKurveOhneKonnode", "chkPartialKurve", "cmdOK", "cmdClose"}));
 }
 
 TEST_F(OptionsForm, ControlsFollowTheSubstanceAndItsEquation) {

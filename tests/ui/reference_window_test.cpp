@@ -178,28 +178,12 @@ TEST_F(ReferenceForm, AmbientTemperatureOfZeroBecomesATinyOne) {
 
 TEST_F(ReferenceForm, NoTwoControlsShareALetter) {
     Open();
-    QStringList letters;
-    const auto collect = [&](const QString& text) {
-        const QKeySequence letter = QKeySequence::mnemonic(text);
-        if (!letter.isEmpty())
-            letters << letter.toString();
-    };
-    for (const auto* button : form->findChildren<QAbstractButton*>())
-        collect(button->text());
-    for (const auto* label : form->findChildren<QLabel*>())
-        collect(label->text());
-    EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
-    EXPECT_EQ(letters.size(), 11);
+    ExpectOwnLetters(form, 11);
 }
 
 TEST_F(ReferenceForm, TabWalksFromTheOptionsThroughTheFields) {
     Open();
-    QStringList walked;
-    for (int i = 0; i < 12 && !walked.contains(QApplication::focusWidget()->objectName()); ++i) {
-        walked << QApplication::focusWidget()->objectName();
-        Press(Qt::Key_Tab);
-    }
-    EXPECT_EQ(walked,
+    EXPECT_EQ(WalkByTab(),
               (QStringList{"opt_HNull(0)", "T(0)", "T(1)", "T(4)", "T(5)", "T(2)", "T(3)", "OK", "Esc"}));
 }
 

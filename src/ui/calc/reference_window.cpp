@@ -3,10 +3,9 @@
 
 #include <QButtonGroup>
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/button_row.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -49,7 +48,7 @@ frmReferenz::frmReferenz(ReferenceInput referenceInput, Dialogs& boxes, QWidget*
     column->addWidget(KindFrame());
     column->addWidget(FieldFrame(QStringLiteral("Bezugspunkt"), referencePoint));
     column->addWidget(FieldFrame(QStringLiteral("Umgebungszustand der Exergien"), environment));
-    column->addLayout(ButtonRow());
+    column->addLayout(TakeOrCancel(*this, "OK", "Esc", [this] { TakeInput(); }));
     column->setSizeConstraint(QLayout::SetFixedSize);
     ShowInput();
     opt_HNull[static_cast<std::size_t>(input.opt_HNull)]->setFocus();
@@ -98,21 +97,6 @@ QGroupBox* frmReferenz::FieldFrame(const QString& title, std::span<const int> sh
     }
     grid->setColumnStretch(2, 1);
     return frame;
-}
-
-QLayout* frmReferenz::ButtonRow() {
-    auto* ok = new QPushButton(QStringLiteral("&OK"), this);
-    ok->setObjectName(QStringLiteral("OK"));
-    ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("&Abbrechen"), this);
-    cancel->setObjectName(QStringLiteral("Esc"));
-    connect(ok, &QPushButton::clicked, this, &frmReferenz::TakeInput);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    row->addWidget(ok);
-    row->addWidget(cancel);
-    return row;
 }
 
 void frmReferenz::ShowInput() {

@@ -27,7 +27,6 @@ signals:
 private:
     QGroupBox* KindFrame();
     QGroupBox* FieldFrame(const QString& title, std::span<const int> shown);
-    QLayout* ButtonRow();
     void ShowInput();
     void TakeTexts();
     void TakeOption(int option);

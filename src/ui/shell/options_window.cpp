@@ -9,6 +9,7 @@
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 
+#include "ui/button_row.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -47,7 +48,7 @@ frmOptions::frmOptions(OptionsChoice optionsChoice, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setSpacing(10);
     column->addLayout(grid);
-    column->addLayout(ButtonRow());
+    column->addLayout(TakeOrCancel(*this, "cmdOK", "cmdClose", [this] { Accept(); }));
     column->setSizeConstraint(QLayout::SetFixedSize);
     ShowChoice();
     OptCalcMode[static_cast<std::size_t>(choice.OptCalcMode)]->setFocus();
@@ -162,7 +163,6 @@ QGroupBox* frmOptions::ReferenceFrame() {
     auto* frame = new QGroupBox(this);
     auto* open = new QPushButton(QStringLiteral("&Einstellen / Sichten"), frame);
     open->setObjectName(QStringLiteral("Command1"));
-    open->setAutoDefault(false);
     connect(open, &QPushButton::clicked, this, &frmOptions::OpenReference);
     auto* column = new QVBoxLayout(frame);
     column->setSpacing(2);
@@ -175,21 +175,6 @@ QGroupBox* frmOptions::ReferenceFrame() {
     column->addStretch(1);
     column->addLayout(row);
     return frame;
-}
-
-QLayout* frmOptions::ButtonRow() {
-    auto* ok = new QPushButton(QStringLiteral("&OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("&Abbrechen"), this);
-    cancel->setObjectName(QStringLiteral("cmdClose"));
-    connect(ok, &QPushButton::clicked, this, &frmOptions::Accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    row->addWidget(ok);
-    row->addWidget(cancel);
-    return row;
 }
 
 void frmOptions::ShowChoice() {

@@ -35,7 +35,6 @@ private:
     QGroupBox* ResolutionFrame();
     QGroupBox* DiagramFrame();
     QGroupBox* ReferenceFrame();
-    QLayout* ButtonRow();
     void AddOptions(QGroupBox& frame, const char* name, const std::array<OptionRow, 2>& rows,
                     std::array<QRadioButton*, 2>& options);
     QCheckBox* AddBox(QGroupBox& frame, const char* name, const char* text);

@@ -2,12 +2,11 @@
 #include "ui/substance/virial_input_window.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/button_row.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -39,20 +38,9 @@ frmBParInput::frmBParInput(const std::array<double, 3>& constants, Dialogs& boxe
         form->addRow(label, fields[i]);
     }
     column->addLayout(form);
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName(QStringLiteral("cmdParameter_OK"));
-    ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("&Abbrechen"), this);
-    cancel->setObjectName(QStringLiteral("cancel"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
     column->addSpacing(6);
-    column->addLayout(buttons);
+    column->addLayout(TakeOrCancel(*this, "cmdParameter_OK", "cancel", [this] { TakeInput(); }));
     column->setSizeConstraint(QLayout::SetFixedSize);
-    connect(ok, &QPushButton::clicked, this, &frmBParInput::TakeInput);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     fields.front()->setFocus();
     fields.front()->selectAll();
 }
