@@ -39,7 +39,7 @@ KindLines LinesOf(int kind) {
 
 // All digits that the row holds, so that calculating again means the same point.
 template<class Number> std::string ShownNumber(Number x) {
-    return x > missingValue ? General(x) : std::string();
+    return x > missingValue ? FieldText(x) : std::string();
 }
 
 // Numbers that all belong to one statement: none may be missing, and each must be a single.
@@ -111,6 +111,15 @@ void PointInput::SetVolumeInput(bool volume) {
     volumeInput = volume;
     lines[2].text.clear();
     LabelDensityLine();
+}
+
+void PointInput::FollowUnits() {
+    if (!TakesDensity())
+        return;
+    const std::string label = lines[2].label;
+    LabelDensityLine();
+    if (lines[2].label != label)
+        lines[2].text.clear();
 }
 
 void PointInput::LabelDensityLine() {

@@ -48,6 +48,8 @@ public:
     bool TakesDensity() const { return !IsReference() && !IsVessel() && lines[2].visible; }
     void SetVolumeInput(bool volume);
     bool VolumeInput() const { return volumeInput; }
+    // The options changed the units: a volume line takes its new ones, without the number typed in the old.
+    void FollowUnits();
 
     // The content of a vessel as mass or as amount of substance (`optm_n`).
     void SetAmountInput(bool amount);

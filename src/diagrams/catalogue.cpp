@@ -19,6 +19,18 @@ constexpr DiagramRow rows[] = {
 
 } // namespace
 
+// A quantity that nobody thought of here had better be drawn again than lie.
+bool DependsOnReference(Quantity quantity) {
+    switch (quantity) {
+    case Quantity::None:
+    case Quantity::Temperature:
+    case Quantity::Pressure:
+    case Quantity::Volume:
+        return false;
+    }
+    return true;
+}
+
 std::span<const DiagramRow> Catalogue() {
     return rows;
 }

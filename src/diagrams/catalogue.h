@@ -35,6 +35,10 @@ struct DiagramRow {
     TieLine (*tieLine)(CurveRun&); // ends of the tie line, or none
 };
 
+// False for T, p and v, whatever their unit; true for what counts from the reference point or the ambient
+// state, so that curves of it are out of date when these change.
+bool DependsOnReference(Quantity quantity);
+
 std::span<const DiagramRow> Catalogue();
 
 // The row of a type; null if there is none.

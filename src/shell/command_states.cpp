@@ -76,6 +76,7 @@ constexpr EnablingRule enablingRules[] = {
     {Start, "mnuStoff", noIndex, Enable, Never},
     {Start, "mnuModel", noIndex, Enable, Never},
     {Start, "mnuData_ParameterEOS", noIndex, Enable, Never},
+    {Start, toolbarName, 11, Enable, Never},
     {Start, toolbarName, 15, Enable, Never},
     {Start, "mnuData_BatchInput", noIndex, Enable, Never},
     {Start, "mnuData_BatchEdit", noIndex, Enable, Never},
@@ -236,6 +237,8 @@ bool CommandStates::ToolbarEnabled(int buttonIndex) const {
     if (!ToolbarAllowed(buttonIndex))
         return false;
     const ToolbarRow& button = ToolbarTable()[static_cast<std::size_t>(ToolbarPosition(buttonIndex))];
+    if (button.action != CommandAction::None)
+        return true;
     const int row = FindCommand(button.command);
     return row >= 0 && Enabled(row);
 }

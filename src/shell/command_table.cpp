@@ -169,7 +169,7 @@ constexpr CommandRow commandTable[] = {
     {"mnuCalc_sub_database", 6, "mnuCalc", 20, "S-Wärmekapazität", Command, Calculate, kindSolidCp},
 
     {"mnuFitting", noIndex, "", noIndex, "&Fitting"},
-    {"mnuOptions", noIndex, "", noIndex, "&Optionen"},
+    {"mnuOptions", noIndex, "", noIndex, "&Optionen", Command, ShowOptions},
     {"mnuWindow", noIndex, "", noIndex, "Fenster...", Menu},
     {"mnuHilfe", noIndex, "", noIndex, "&Hilfe...", Menu},
     {"mnuHilfe_About", noIndex, "mnuHilfe", noIndex, "Über das Programm", Command, About},
@@ -183,7 +183,7 @@ constexpr ToolbarRow toolbarTable[] = {
     {4, " Letzte Sitzung laden ", "mnuData_LoadLastSession"},
     {6, " Existierendes Projekt laden ", "mnuData_LoadProject"},
     {7, " Aktuelles Projekt speichern ", "mnuData_SaveProject"},
-    {11, " Normierung thermodynamischer Funktionen ", ""},
+    {11, " Normierung thermodynamischer Funktionen ", "", ShowReference},
     {15, " Behälterberechnung (Global-Methode)", ""},
 };
 // clang-format on

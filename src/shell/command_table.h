@@ -20,6 +20,8 @@ enum class CommandAction : std::uint8_t {
     ChooseModels,
     Calculate, // argument: calculation kind
     Draw,      // argument: diagram type
+    ShowOptions,
+    ShowReference,
     About
 };
 
@@ -52,7 +54,8 @@ int FindCommand(std::string_view name, int index = noIndex);
 struct ToolbarRow {
     int index;
     std::string_view toolTip;
-    std::string_view command; // the menu command behind it, empty if it has none
+    std::string_view command;                   // the menu command behind it, empty if it has none
+    CommandAction action = CommandAction::None; // of a button without a menu command
 };
 
 std::span<const ToolbarRow> ToolbarTable();

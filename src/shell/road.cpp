@@ -158,6 +158,13 @@ void AcceptModels(Session& session, const StatusPanels& panels) {
     session.statusPanels[1] = panels.eos;
     session.statusPanels[2] = panels.vaporPressure;
     SetDefaultRanges(session.model, session.options, session.ranges);
+    if (session.options.batchMode)
+        session.Enter(SessionEvent::BatchModeOn); // a vessel stays out of reach
+}
+
+void AcceptReference(Session& session) {
+    if (session.commands.Allowed(FindCommand("mnuOptions")))
+        SetDefaultRanges(session.model, session.options, session.ranges);
 }
 
 bool SetCalculation(Session& session, int kind, bool assumeEquilibrium) {

@@ -34,6 +34,10 @@ ModelChoice MakeModelChoice(Session& session);
 // units and ranges.
 void AcceptModels(Session& session, const StatusPanels& panels);
 
+// What follows when the reference window changed the reference point: the default windows of the diagrams,
+// once the models stand.
+void AcceptReference(Session& session);
+
 // The windows that a calculation opens, in this order.
 struct CalculationStart {
     bool askForMethod = false; // `frmCalcIn` comes first, the others when it is left with OK

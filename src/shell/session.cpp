@@ -31,6 +31,8 @@ Session::Session(const Machine& ownMachine, Dialogs& ownDialogs, ProgramRunner* 
 }
 
 void Session::ResetModelState() {
+    if (options.batchMode)
+        Enter(SessionEvent::BatchModeOff); // the mode is reset, and the menu follows it
     orva::ResetModelState(model, options, state, ranges);
     calculation.GlobalMethod = state.vesselGlobal;
     Enter(SessionEvent::ModelStateReset);

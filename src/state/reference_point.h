@@ -14,6 +14,8 @@ struct ReferencePoint {
     double s0 = 0;         // kJ/(kmol K)
     double Tenv = 298.15;  // K
     double penv = 101.325; // kPa
+
+    bool operator==(const ReferencePoint&) const = default;
 };
 
 } // namespace orva

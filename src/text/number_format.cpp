@@ -2,9 +2,11 @@
 #include "text/number_format.h"
 
 #include "text/decimal.h"
+#include "text/number_input.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 namespace orva {
@@ -230,6 +232,15 @@ std::string WithSignPlace(std::string text) {
     return text[0] == '-' ? text : ' ' + text;
 }
 
+template<class Number> std::string DigitsThatReadBack(Number x, int digits) {
+    if (!std::isfinite(x))
+        return {};
+    std::string text = GeneralDigits(x, digits, NumberStyle());
+    while (static_cast<Number>(ParseNumber(text)) != x && digits < std::numeric_limits<Number>::max_digits10)
+        text = GeneralDigits(x, ++digits, NumberStyle());
+    return text;
+}
+
 } // namespace
 
 std::string Format(double x, std::string_view mask, NumberStyle style) {
@@ -257,6 +268,14 @@ std::string General(float x, NumberStyle style) {
 
 std::string General(double x, NumberStyle style) {
     return GeneralDigits(x, doubleDigits, style);
+}
+
+std::string FieldText(float x) {
+    return DigitsThatReadBack(x, singleDigits);
+}
+
+std::string FieldText(double x) {
+    return DigitsThatReadBack(x, doubleDigits);
 }
 
 std::string Str(float x, NumberStyle style) {

@@ -33,6 +33,11 @@ std::string Format(double x, std::string_view mask, NumberStyle style = {});
 std::string General(float x, NumberStyle style = {});
 std::string General(double x, NumberStyle style = {});
 
+// The text of an input field: the default conversion with a point, or as many digits more as it takes for
+// ParseNumber to give the same number back. Empty for not a number and infinities.
+std::string FieldText(float x);
+std::string FieldText(double x);
+
 // The default conversion with a blank in place of a plus sign.
 std::string Str(float x, NumberStyle style = {});
 std::string Str(double x, NumberStyle style = {});

@@ -48,17 +48,21 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 } // namespace
 
-double ParseNumber(std::string_view text) {
+std::optional<double> ReadNumber(std::string_view text) {
     text = WithoutLeadingBlanks(text);
     std::string number(text.substr(0, NumberLength(text)));
     if (number.empty())
-        return 0.0;
+        return std::nullopt;
     std::replace(number.begin(), number.end(), ',', '.');
     const char* first = number.data() + (number.front() == '+' ? 1 : 0);
     double value = 0.0;
     // An error can only be a number beyond the range of a double, too large or too small.
     const auto result = std::from_chars(first, number.data() + number.size(), value);
-    return result.ec == std::errc() ? value : 0.0;
+    return result.ec == std::errc() ? std::optional(value) : std::nullopt;
+}
+
+double ParseNumber(std::string_view text) {
+    return ReadNumber(text).value_or(0.0);
 }
 
 bool IsNumber(std::string_view text) {

@@ -172,5 +172,46 @@ TEST(ResultWindow, CalculatesTheRowInForce) {
     EXPECT_EQ(window.Result().par1.text, "T = 300.000 K");
 }
 
+TEST(PointInput, AVolumeLineFollowsTheUnitsWithoutTheNumberOfTheOldOnes) {
+    const SubstanceData butane = Butane();
+    Options options;
+    BatchDataSet batch;
+    CalculationState calculation;
+    PointInput input(kindTRho + inputContextOffset, {butane, options, batch, calculation});
+    input.SetVolumeInput(true);
+    input.Lines()[0].text = "300";
+    input.Lines()[2].text = "24";
+    input.FollowUnits();
+    EXPECT_EQ(input.Lines()[2].text, "24");
+    options.volumeBasis = 1;
+    input.FollowUnits();
+    EXPECT_EQ(input.Lines()[2].label, "  V/m^3/kg  = ");
+    EXPECT_EQ(input.Lines()[2].text, "");
+    EXPECT_EQ(input.Lines()[0].text, "300");
+}
+
+TEST(PointInput, ADensityLineKeepsItsNumberUnderOtherUnits) {
+    const SubstanceData butane = Butane();
+    Options options;
+    BatchDataSet batch;
+    CalculationState calculation;
+    PointInput input(kindTRho + inputContextOffset, {butane, options, batch, calculation});
+    input.Lines()[2].text = "2.5";
+    options.volumeBasis = 2;
+    input.FollowUnits();
+    EXPECT_EQ(input.Lines()[2].text, "2.5");
+}
+
+TEST(PointInput, ShowsEveryDigitOfTheRow) {
+    const SubstanceData butane = Butane();
+    const Options options;
+    BatchDataSet batch;
+    CalculationState calculation;
+    batch.rows[0].T = 1000.0 / 3;
+    PointInput input(kindTP + inputContextOffset, {butane, options, batch, calculation});
+    EXPECT_FALSE(input.Accept().has_value());
+    EXPECT_EQ(batch.rows[0].T, 1000.0 / 3);
+}
+
 } // namespace
 } // namespace orva::test

@@ -211,5 +211,12 @@ TEST(SetUpDiagram, ATypeThatIsNotBuiltChangesNothing) {
     EXPECT_EQ(d.spec.heading, before);
 }
 
+TEST(Catalogue, KnowsWhichQuantitiesCountFromTheReferencePoint) {
+    for (const Quantity thermal :
+         {Quantity::None, Quantity::Temperature, Quantity::Pressure, Quantity::Volume})
+        EXPECT_FALSE(DependsOnReference(thermal));
+    EXPECT_TRUE(DependsOnReference(static_cast<Quantity>(250))); // one that nobody has judged yet
+}
+
 } // namespace
 } // namespace orva

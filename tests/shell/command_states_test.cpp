@@ -58,8 +58,8 @@ TEST_F(Commands, AtStartOnlyTheDatabaseIsOpen) {
          {"mnuStoff", "mnuModel", "mnu2D", "mnu3D", "mnuCalcMain", "mnuOptions", "mnuFitting",
           "mnuData_SaveProject", "mnuData_BatchInput", "mnuData_BatchEdit", "mnuData_EditStoffdaten"})
         EXPECT_FALSE(Allowed(name)) << name;
-    EXPECT_FALSE(states.ToolbarAllowed(7));
-    EXPECT_FALSE(states.ToolbarAllowed(15));
+    for (const int button : {7, 11, 15})
+        EXPECT_FALSE(states.ToolbarAllowed(button)) << button;
 }
 
 TEST_F(Commands, ADatabaseOpensTheSubstances) {
@@ -201,13 +201,27 @@ TEST_F(Commands, LeavingBatchModeKeepsTheGlobalVesselClosedWithoutACubicEquation
 
 TEST_F(Commands, ACommandWithoutAnActionStaysDisabledInItsPlace) {
     ReachModels();
-    EXPECT_TRUE(Allowed("mnuOptions"));
-    EXPECT_FALSE(Enabled("mnuOptions"));
+    EXPECT_TRUE(Allowed("mnuFitting"));
+    EXPECT_FALSE(Enabled("mnuFitting"));
     EXPECT_FALSE(Enabled("mnu3D"));
     EXPECT_TRUE(Enabled("mnu2D"));
     EXPECT_FALSE(Enabled("mnuGraf", 1));
-    EXPECT_FALSE(states.ToolbarEnabled(11));
+    EXPECT_TRUE(states.ToolbarAllowed(6));
+    EXPECT_FALSE(states.ToolbarEnabled(6));
     EXPECT_TRUE(states.ToolbarEnabled(2));
+}
+
+TEST_F(Commands, ReferencePointIsOpenFromTheSubstanceOnAndOptionsFromTheModelsOn) {
+    Begin();
+    EXPECT_FALSE(states.ToolbarEnabled(11));
+    EXPECT_FALSE(Enabled("mnuOptions"));
+    Enter(SessionEvent::DatabaseOpened);
+    EXPECT_FALSE(states.ToolbarEnabled(11));
+    Enter(SessionEvent::SubstanceAccepted);
+    EXPECT_TRUE(states.ToolbarEnabled(11));
+    EXPECT_FALSE(Enabled("mnuOptions"));
+    Enter(SessionEvent::ModelsAccepted);
+    EXPECT_TRUE(Enabled("mnuOptions"));
 }
 
 TEST_F(Commands, KeysNameTheEntriesOfAnArray) {

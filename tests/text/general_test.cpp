@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "text/number_format.h"
+#include "text/number_input.h"
 
+#include <cmath>
 #include <limits>
 
 namespace orva {
@@ -99,6 +101,25 @@ TEST(General, TakesTheDecimalComma) {
     EXPECT_EQ(General(-0.75, comma), "-0,75");
     EXPECT_EQ(General(1.5e20, comma), "1,5E+20");
     EXPECT_EQ(General(12.0, comma), "12");
+}
+
+TEST(FieldText, IsTheDefaultConversionWhereThatReadsBack) {
+    EXPECT_EQ(FieldText(298.15F), "298.15");
+    EXPECT_EQ(FieldText(298.15), "298.15");
+    EXPECT_EQ(FieldText(-125790.0), "-125790");
+    EXPECT_EQ(FieldText(1e-6), "0.000001");
+    EXPECT_EQ(FieldText(0.0), "0");
+    EXPECT_EQ(FieldText(std::numeric_limits<double>::infinity()), "");
+    EXPECT_EQ(FieldText(std::numeric_limits<float>::quiet_NaN()), "");
+}
+
+TEST(FieldText, AddsDigitsUntilTheNumberReadsBack) {
+    EXPECT_EQ(FieldText(16777216.0F), "16777216"); // seven digits are not enough
+    EXPECT_EQ(FieldText(0.1 + 0.2), "0.30000000000000004");
+    for (float x : {1.0F / 3, 16777215.0F, std::nextafterf(298.15F, 300), 3.4028235e38F, 1e-37F, -0.1F})
+        EXPECT_EQ(static_cast<float>(ParseNumber(FieldText(x))), x) << FieldText(x);
+    for (double x : {1.0 / 3, 2.0 / 3e-7, std::nextafter(101.325, 102), 1.7976931348623157e308, 1e-37, -1e22})
+        EXPECT_EQ(ParseNumber(FieldText(x)), x) << FieldText(x);
 }
 
 TEST(Str, KeepsAPlaceForTheSign) {

@@ -107,5 +107,13 @@ TEST(IsNumericKey, DropsEveryOtherKey) {
     }
 }
 
+TEST(ReadNumber, TellsAZeroFromNothing) {
+    EXPECT_EQ(ReadNumber(" 0"), 0.0);
+    EXPECT_EQ(ReadNumber("-1,5e2 K"), -150.0);
+    EXPECT_EQ(ReadNumber("1e"), 1.0);
+    for (const char* text : {"", " ", "-", "e5", "x1", "1e400", "-1e999", "1e-400", "inf", "nan"})
+        EXPECT_EQ(ReadNumber(text), std::nullopt) << text;
+}
+
 } // namespace
 } // namespace orva

@@ -117,6 +117,43 @@ TEST_F(ModelWindow, HandInputOfTheVirialConstantsIsTakenWithTheModels) {
     EXPECT_EQ(session->model.eos.nF, 1.75);
 }
 
+TEST_F(ModelWindow, HandInputWithoutUsableNumbersIsRefusedAndStaysOpen) {
+    Pick(EOSKombi, "VIRIAL-Gl. Hand-Eingabe");
+    auto* input = Wait<frmBParInput>();
+    ASSERT_NE(input, nullptr);
+    Type("0,08");
+    EXPECT_EQ(In<QLineEdit>(input, "par(0)")->text(), "0.08");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "par(1)");
+    Type("1e400");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "par(2)");
+    Press(Qt::Key_Return);
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].title, "Ausführung nicht möglich");
+    EXPECT_EQ(dialogs.shown[0].text, "keine gültige Eingabe");
+    EXPECT_EQ(Find<frmBParInput>(), input);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "par(1)");
+    Type("1e4"); // the refused text is selected
+    ClickButton(input, "cmdParameter_OK");
+    EXPECT_EQ(Find<frmBParInput>(), nullptr);
+    ClickButton(form, "OKModell");
+    EXPECT_EQ(session->model.eos.b0, 0.08);
+    EXPECT_EQ(session->model.eos.nB, 1e4);
+}
+
+TEST_F(ModelWindow, EscLeavesTheHandInput) {
+    Pick(EOSKombi, "VIRIAL-Gl. Hand-Eingabe");
+    auto* input = Wait<frmBParInput>();
+    ASSERT_NE(input, nullptr);
+    Type("5");
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Find<frmBParInput>(), nullptr);
+    EXPECT_TRUE(dialogs.shown.empty());
+    ClickButton(form, "OKModell");
+    EXPECT_EQ(session->model.eos.b0, 0);
+}
+
 TEST_F(ModelWindow, CancelledHandInputLeavesTheConstantsAlone) {
     ClickButton(form, "OKModell");
     const double b0 = session->model.eos.b0;

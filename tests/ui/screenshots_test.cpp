@@ -5,8 +5,10 @@
 
 #include "ui/ui_fixture.h"
 
+#include "ui/calc/reference_window.h"
 #include "ui/diagrams/diagram_window_view.h"
 #include "ui/diagrams/value_input_view.h"
+#include "ui/shell/options_window.h"
 #include "ui/substance/virial_input_window.h"
 
 namespace orva::test {
@@ -76,12 +78,24 @@ TEST_P(Screenshots, OfAllWindowsShowTheirTextsWhole) {
     auto* hLV = In<QComboBox>(models, "HLVKombi");
     emit hLV->activated(hLV->findText("Watson-Korrelation"));
     Shoot(models, "04-frmQModell");
-    frmBParInput hand({0.0758, 2.31e4, 1.75});
+    frmBParInput hand({0.0758, 2.31e4, 1.75}, dialogs);
     hand.show();
     Shoot(&hand, "05-frmBParInput");
     hand.close();
     ClickButton(models, "OKModell");
     Shoot(window.get(), "06-mdiORVA-bereit");
+
+    Command("mnuOptions")->trigger();
+    auto* options = Wait<frmOptions>();
+    ASSERT_NE(options, nullptr);
+    Shoot(options, "15-frmOptions");
+    ClickButton(options, "Command1");
+    auto* reference = Wait<frmReferenz>();
+    ASSERT_NE(reference, nullptr);
+    Shoot(reference, "16-frmReferenz-frei");
+    Click(In<QRadioButton>(reference, "opt_HNull(1)"));
+    Shoot(reference, "17-frmReferenz-Bildung");
+    ClickButton(reference, "Esc");
 
     auto* input = StartTP();
     ASSERT_NE(input, nullptr);

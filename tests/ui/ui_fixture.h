@@ -109,6 +109,33 @@ struct Workbench : testing::Test {
         QTest::keyClick(QApplication::focusWidget(), key);
     }
 
+    // Every letter with Alt belongs to one control of the window.
+    static void ExpectOwnLetters(const QWidget* form, int count) {
+        QStringList letters;
+        const auto collect = [&letters](const QString& text) {
+            const QKeySequence letter = QKeySequence::mnemonic(text);
+            if (!letter.isEmpty())
+                letters << letter.toString();
+        };
+        for (const auto* button : form->findChildren<QAbstractButton*>())
+            collect(button->text());
+        for (const auto* label : form->findChildren<QLabel*>())
+            collect(label->text());
+        EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
+        EXPECT_EQ(letters.size(), count);
+    }
+
+    // The controls that Tab reaches, from the one that has the keyboard on, once round.
+    static QStringList WalkByTab() {
+        constexpr int enough = 40;
+        QStringList walked;
+        while (walked.size() < enough && !walked.contains(QApplication::focusWidget()->objectName())) {
+            walked << QApplication::focusWidget()->objectName();
+            Press(Qt::Key_Tab);
+        }
+        return walked;
+    }
+
     // The way to the point at which calculations begin.
     frmStoffWahl* OpenDatabase() {
         dialogs.files = {(machine.InstallationFolder() / "ORVA.Q05").string()};

@@ -92,6 +92,17 @@ void frmParinput::ShowLines() {
     }
 }
 
+void frmParinput::TakeTexts() {
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        input.Lines()[i].text = FromQt(fields[i]->text());
+}
+
+void frmParinput::FollowUnits() {
+    TakeTexts();
+    input.FollowUnits();
+    ShowLines();
+}
+
 void frmParinput::FocusFirstField() {
     for (NumberField* field : fields) {
         if (field->isHidden())
@@ -127,8 +138,7 @@ bool frmParinput::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmParinput::CalculateNow() {
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        input.Lines()[i].text = FromQt(fields[i]->text());
+    TakeTexts();
     if (const auto refused = input.Accept()) {
         dialogs.Show(*refused);
         FocusFirstField();

@@ -23,6 +23,8 @@ public:
 
     // Puts the keyboard on the first field with its number selected.
     void FocusFirstField();
+    // The options changed the units of a volume.
+    void FollowUnits();
 
 signals:
     // The numbers stand in row 0 of the data series.
@@ -36,6 +38,7 @@ private:
     void AddChoice(QBoxLayout& column, const char* name, const std::array<const char*, 2>& texts, int chosen,
                    std::function<void(int)> choose);
     void ShowLines();
+    void TakeTexts();
     void CalculateNow();
     bool FocusNextField(QObject* from);
 

@@ -212,6 +212,15 @@ void frmCalcOut::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmCalcOut::Calculate() {
+    Refresh();
+    // A box may outlive the window.
+    Dialogs& boxes = session.dialogs;
+    const std::vector<Message> messages = model.Result().messages;
+    for (const Message& message : messages)
+        boxes.Show(message);
+}
+
+void frmCalcOut::Refresh() {
     {
         const BusyScope scope(busy);
         model.Calculate();
@@ -222,10 +231,9 @@ void frmCalcOut::Calculate() {
     ShowResultLabel(*co1, result.co1);
     ShowResultLabel(*co2, result.co2);
     co2->setAutoFillBackground(result.co2.reportBackground);
+    co2->setBackgroundRole(result.co2.reportBackground ? QPalette::Base : QPalette::NoRole);
     report->Show(result);
     ShowControls();
-    for (const Message& message : result.messages)
-        session.dialogs.Show(message);
 }
 
 } // namespace orva

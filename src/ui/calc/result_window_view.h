@@ -25,6 +25,8 @@ public:
 
     // Runs the calculation in force and shows it, with its boxes.
     void Calculate();
+    // Runs it once more for other units or another reference point; its boxes have been seen.
+    void Refresh();
 
     // Shows what the model says of its controls.
     void ShowControls();

@@ -48,7 +48,18 @@ DiagramDesk::Subject DiagramDesk::CurrentSubject() const {
 }
 
 void DiagramDesk::CloseIfStale() {
-    if (graph == nullptr || CurrentSubject() == subject)
+    if (!(CurrentSubject() == subject))
+        Close();
+}
+
+void DiagramDesk::CloseIfNormalised() {
+    const DiagramRow* row = FindDiagram(window.Spec().type);
+    if (row != nullptr && (DependsOnReference(row->x.quantity) || DependsOnReference(row->y.quantity)))
+        Close();
+}
+
+void DiagramDesk::Close() {
+    if (graph == nullptr)
         return;
     valueBox->close();
     graph->close();

@@ -25,6 +25,9 @@ public:
     void Open(const DiagramRow& row);
     // Closes both windows when substance or equation of state are no longer those that the heading names.
     void CloseIfStale();
+    // Closes both windows when the curves count from the reference point, which has changed.
+    void CloseIfNormalised();
+    void Close();
 
 private:
     // What the curves of the open diagram belong to.

@@ -93,8 +93,7 @@ void mdiORVA::BuildToolbar() {
         QAction* button = bar->addAction(ToolbarIcon(row.index), ToQt(row.toolTip).trimmed());
         button->setObjectName(ControlName("toolbar", row.index));
         button->setToolTip(ToQt(row.toolTip));
-        if (const int command = FindCommand(row.command); command >= 0)
-            connect(button, &QAction::triggered, this, [this, command] { RunCommand(command); });
+        connect(button, &QAction::triggered, this, [this, &row] { RunToolbarButton(row); });
         toolbarButtons.emplace_back(row.index, button);
     }
     addSpacer(QSizePolicy::Expanding);

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QToolBar>
 
+#include "shell/options_choice.h"
 #include "shell/road.h"
 #include "shell/session.h"
 #include "ui/shell/busy_cursor.h"
@@ -46,6 +47,7 @@ protected:
 private:
     using Handler = void (mdiORVA::*)(const CommandRow&);
     bool IsReachable(int row) const;
+    void RunToolbarButton(const ToolbarRow& button);
     static Handler HandlerOf(CommandAction action);
 
     void BuildToolbar();
@@ -65,7 +67,11 @@ private:
     void ChooseModels(const CommandRow& command);
     void Calculate(const CommandRow& command);
     void DrawDiagram(const CommandRow& command);
+    void ShowOptions(const CommandRow& command);
+    void ShowReference(const CommandRow& command);
     void CloseStaleDiagram();
+    void FollowOptions(const OptionsChoice::Outcome& outcome);
+    void FollowReference(bool changed);
     void ShowAbout(const CommandRow& command);
 
     void SwitchHint();

@@ -4,10 +4,12 @@
 #include "shell/status_texts.h"
 #include "ui/calc/method_window.h"
 #include "ui/calc/point_input_window.h"
+#include "ui/calc/reference_window.h"
 #include "ui/calc/result_window_view.h"
 #include "ui/place_window.h"
 #include "ui/shell/diagram_desk.h"
 #include "ui/shell/main_window.h"
+#include "ui/shell/options_window.h"
 #include "ui/substance/model_window.h"
 #include "ui/substance/substance_window.h"
 
@@ -39,6 +41,10 @@ mdiORVA::Handler mdiORVA::HandlerOf(CommandAction action) {
         return &mdiORVA::Calculate;
     case CommandAction::Draw:
         return &mdiORVA::DrawDiagram;
+    case CommandAction::ShowOptions:
+        return &mdiORVA::ShowOptions;
+    case CommandAction::ShowReference:
+        return &mdiORVA::ShowReference;
     case CommandAction::About:
         return &mdiORVA::ShowAbout;
     case CommandAction::None:
@@ -63,6 +69,18 @@ void mdiORVA::RunCommand(int row) {
     if (handler == nullptr || !IsReachable(row))
         return;
     (this->*handler)(command);
+    Refresh();
+}
+
+void mdiORVA::RunToolbarButton(const ToolbarRow& button) {
+    if (const int row = FindCommand(button.command); row >= 0) {
+        RunCommand(row);
+        return;
+    }
+    const Handler handler = HandlerOf(button.action);
+    if (handler == nullptr || !session.commands.ToolbarEnabled(button.index))
+        return;
+    (this->*handler)({});
     Refresh();
 }
 
@@ -162,6 +180,44 @@ void mdiORVA::ChooseModels(const CommandRow&) {
         startPage->FocusCurrentStep();
     });
     ShowForm(form, Qt::ApplicationModal);
+}
+
+void mdiORVA::ShowOptions(const CommandRow&) {
+    auto* form = new frmOptions(OptionsChoice(session), this);
+    connect(form, &frmOptions::Accepted, this, &mdiORVA::FollowOptions);
+    connect(
+        form, &frmOptions::ReferenceWanted, this, [this] { ShowReference({}); }, Qt::QueuedConnection);
+    ShowForm(form, Qt::ApplicationModal);
+}
+
+void mdiORVA::ShowReference(const CommandRow&) {
+    const ReferenceInput input(session.model.reference, session.model.substance);
+    auto* form = new frmReferenz(input, session.dialogs, this);
+    connect(form, &frmReferenz::Accepted, this, &mdiORVA::FollowReference);
+    ShowForm(form, Qt::ApplicationModal);
+}
+
+// What is shown must be in the units that are in force.
+void mdiORVA::FollowOptions(const OptionsChoice::Outcome& outcome) {
+    if (outcome.unitsChanged && diagramDesk != nullptr)
+        diagramDesk->Close();
+    if (outcome.batchModeChanged) {
+        CloseForms({"frmParinput", "frmCalcOut", "frmKessel"});
+    } else if (outcome.unitsChanged) {
+        if (inputWindow != nullptr)
+            inputWindow->FollowUnits();
+        if (resultWindow != nullptr)
+            resultWindow->Refresh();
+    }
+    Refresh();
+}
+
+void mdiORVA::FollowReference(bool changed) {
+    AcceptReference(session);
+    if (changed && diagramDesk != nullptr)
+        diagramDesk->CloseIfNormalised();
+    if (changed && resultWindow != nullptr)
+        resultWindow->Refresh();
 }
 
 void mdiORVA::Calculate(const CommandRow& command) {

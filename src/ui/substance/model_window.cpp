@@ -202,9 +202,10 @@ void frmQModell::ShowChoice() {
 
 // The constants wait for the acceptance of the window, so that cmdEsc leaves those in force alone.
 void frmQModell::AskVirialConstants() {
-    auto* input = new frmBParInput(choice.VirialConstants(), this);
+    auto* input = new frmBParInput(choice.VirialConstants(), session.dialogs, this);
     input->setAttribute(Qt::WA_DeleteOnClose);
-    connect(input, &QDialog::accepted, this, [this, input] { choice.EnterVirialConstants(input->Values()); });
+    connect(input, &QDialog::accepted, this,
+            [this, input] { choice.EnterVirialConstants(input->Constants()); });
     input->open();
 }
 

@@ -2,14 +2,11 @@
 #include "ui/substance/virial_input_window.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
-#include "text/number_format.h"
-#include "text/number_input.h"
+#include "ui/button_row.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -21,7 +18,8 @@ constexpr const char* fieldLabels[] = {"b0 = ", "b1 = ", "b2 = "};
 
 } // namespace
 
-frmBParInput::frmBParInput(const std::array<double, 3>& values, QWidget* parent) : QDialog(parent) {
+frmBParInput::frmBParInput(const std::array<double, 3>& constants, Dialogs& boxes, QWidget* parent)
+    : QDialog(parent), input(constants), dialogs(boxes) {
     setObjectName(QStringLiteral("frmBParInput"));
     setWindowTitle(QStringLiteral("Eingabe: Virialkoeffizient B(T)"));
     auto* column = new QVBoxLayout(this);
@@ -33,36 +31,32 @@ frmBParInput::frmBParInput(const std::array<double, 3>& values, QWidget* parent)
     for (std::size_t i = 0; i < fields.size(); ++i) {
         fields[i] = new NumberField(this);
         fields[i]->setObjectName(ControlName("par", static_cast<int>(i)));
-        fields[i]->setText(ToQt(General(values[i])));
+        fields[i]->setText(ToQt(input.par[i]));
         fields[i]->installEventFilter(this);
         auto* label = new QLabel(QLatin1String(fieldLabels[i]), this);
         label->setFont(FixedPitchFont());
         form->addRow(label, fields[i]);
     }
     column->addLayout(form);
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName(QStringLiteral("cmdParameter_OK"));
-    ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("&Abbrechen"), this);
-    cancel->setObjectName(QStringLiteral("cancel"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
     column->addSpacing(6);
-    column->addLayout(buttons);
+    column->addLayout(TakeOrCancel(*this, "cmdParameter_OK", "cancel", [this] { TakeInput(); }));
     column->setSizeConstraint(QLayout::SetFixedSize);
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     fields.front()->setFocus();
     fields.front()->selectAll();
 }
 
-std::array<double, 3> frmBParInput::Values() const {
-    std::array<double, 3> values{};
+void frmBParInput::TakeInput() {
     for (std::size_t i = 0; i < fields.size(); ++i)
-        values[i] = ParseNumber(FromQt(fields[i]->text()));
-    return values;
+        input.par[i] = FromQt(fields[i]->text());
+    const auto refused = input.cmdParameter_OK();
+    if (!refused) {
+        accept();
+        return;
+    }
+    dialogs.Show(refused->message);
+    NumberField* field = fields[static_cast<std::size_t>(refused->field)];
+    field->setFocus();
+    field->selectAll();
 }
 
 bool frmBParInput::eventFilter(QObject* watched, QEvent* event) {

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+#include "calc/virial_input.h"
 #include "ui/number_field.h"
 
 namespace orva {
@@ -13,14 +14,18 @@ namespace orva {
 class frmBParInput : public QDialog {
     Q_OBJECT
 public:
-    explicit frmBParInput(const std::array<double, 3>& values, QWidget* parent = nullptr);
+    frmBParInput(const std::array<double, 3>& constants, Dialogs& dialogs, QWidget* parent = nullptr);
 
-    std::array<double, 3> Values() const;
+    const std::array<double, 3>& Constants() const { return input.Constants(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void TakeInput();
+
+    VirialInput input;
+    Dialogs& dialogs;
     std::array<NumberField*, 3> fields{};
 };
 
