@@ -5,6 +5,7 @@
 
 #include "ui/ui_fixture.h"
 
+#include "ui/calc/method_window.h"
 #include "ui/calc/reference_window.h"
 #include "ui/diagrams/diagram_window_view.h"
 #include "ui/diagrams/value_input_view.h"
@@ -58,6 +59,41 @@ struct Screenshots : Workbench, testing::WithParamInterface<const char*> {
                         || label->width() >= label->sizeHint().width())
                 << FromQt(label->text());
         }
+    }
+
+    // The method of an equilibrium and what comes of it, a vessel, and the whole of a report.
+    void ShootEquilibrium() {
+        Choose("mnuCalcMain", "mnuCalc(5)");
+        auto* method = Wait<frmCalcIn>();
+        ASSERT_NE(method, nullptr);
+        Shoot(method, "18-frmCalcIn-global");
+        Click(In<QRadioButton>(method, "opt_glob(1)"));
+        Shoot(method, "19-frmCalcIn-partial");
+        Click(In<QRadioButton>(method, "opt_glob(0)"));
+        ClickButton(method, "OK");
+        auto* input = Wait<frmParinput>();
+        ASSERT_NE(input, nullptr);
+        In<QLineEdit>(input, "par(0)")->setText("350");
+        ClickButton(input, "cmdParameter_OK");
+        Click(In<QCheckBox>(Find<frmCalcOut>(), "ResPlus(1)"));
+        Shoot(Find<frmCalcOut>(), "20-frmCalcOut-Gleichgewicht");
+        Find<frmCalcOut>()->close();
+        Choose("mnuCalcMain", "mnuCalc(15)");
+        input = Wait<frmParinput>();
+        ASSERT_NE(input, nullptr);
+        In<QLineEdit>(input, "par(0)")->setText("0.1");
+        In<QLineEdit>(input, "par(1)")->setText("10");
+        In<QLineEdit>(input, "par(3)")->setText("350");
+        Shoot(input, "21-frmParinput-Behaelter");
+        ClickButton(input, "cmdParameter_OK");
+        Shoot(Find<frmCalcOut>(), "22-frmCalcOut-Behaelter");
+        Find<frmCalcOut>()->close();
+        Choose("mnuCalcMain", "mnuCalc(0)");
+        input = Wait<frmParinput>();
+        ASSERT_NE(input, nullptr);
+        Shoot(input, "23-frmParinput-Dichte");
+        input->close();
+        Find<frmCalcOut>()->close();
     }
 
     QPalette light;
@@ -121,6 +157,7 @@ TEST_P(Screenshots, OfAllWindowsShowTheirTextsWhole) {
     }
     Shoot(box, "12-frmTpVSInputBox");
     Shoot(Find<frmGraph2D>(), "13-frmGraph2D");
+    ShootEquilibrium();
     window->findChild<QMenu*>("mnuCalcMain")->popup(window->mapToGlobal(QPoint(300, 30)));
     Shoot(window->findChild<QMenu*>("mnuCalcMain"), "14-mnuCalcMain");
     window->findChild<QMenu*>("mnuCalcMain")->hide();

@@ -81,7 +81,11 @@ struct Workbench : testing::Test {
     static void Click(QWidget* control) {
         ASSERT_NE(control, nullptr);
         ASSERT_TRUE(control->isVisible());
-        QTest::mouseClick(control, Qt::LeftButton);
+        // A box or an option takes clicks on its mark and text only, however wide it is.
+        const bool hasMark = qobject_cast<QCheckBox*>(control) != nullptr
+                             || qobject_cast<QRadioButton*>(control) != nullptr;
+        const QPoint at = hasMark ? QPoint(8, control->height() / 2) : QPoint();
+        QTest::mouseClick(control, Qt::LeftButton, {}, at);
     }
 
     static void ClickButton(const QWidget* form, const char* name) { Click(In<QPushButton>(form, name)); }

@@ -129,6 +129,7 @@ QLayout* frmCalcIn::ButtonRow() {
     auto* ok = new QPushButton(QStringLiteral("&OK"), this);
     ok->setObjectName(QStringLiteral("OK"));
     ok->setDefault(true);
+    ok->setFocus();
     escButton->setObjectName(QStringLiteral("Esc"));
     connect(ok, &QPushButton::clicked, this, &frmCalcIn::AcceptInput);
     connect(escButton, &QPushButton::clicked, this, &QDialog::reject);

@@ -225,6 +225,8 @@ void mdiORVA::Calculate(const CommandRow& command) {
     if (!start.Opens())
         return;
     CloseForms({"frmCalcOut", "frmParinput", "frmCalcIn", "frmKessel"});
+    resultWindow = nullptr; // a closed window lives on until the next turn of the event loop
+    inputWindow = nullptr;
     if (start.askForMethod)
         AskForMethod();
     else
