@@ -47,10 +47,9 @@ double DisplayFactor(Quantity quantity, const Options& options) {
         return options.pFactor;
     case Quantity::Volume:
         return options.volumeFactor;
-    case Quantity::None:
-        break;
+    default:
+        return 1;
     }
-    return 1;
 }
 
 std::string_view ZTitle(int zKind) {

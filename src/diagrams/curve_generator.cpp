@@ -15,12 +15,6 @@ namespace orva {
 
 namespace {
 
-constexpr double largestSingle = 3.4028234e38;
-
-bool FitsSingle(double x) {
-    return std::abs(x) <= largestSingle; // false for values that are no number
-}
-
 // The state of the models and units that every family starts from.
 void Prepare(CurveRun& run) {
     SubstanceModel& model = run.model;
@@ -40,10 +34,20 @@ void Prepare(CurveRun& run) {
     run.options.energyFactor = EnergyFactor(run.options.unitBasis, run.T, model.substance);
 }
 
-TieLine TieLineEnds(const DiagramRow& row, CurveRun& run) {
-    if (row.tieLine == nullptr)
-        return {};
-    TieLine tie = row.tieLine(run);
+// The constants of the equation stand at T again, wherever the tie line has been.
+void RestoreStart(CurveRun& run) {
+    if (!run.model.selection.nonCubic)
+        SetEosCoefficients(run.model, run.T);
+    run.UseTemperature(run.T);
+}
+
+// A type without a tie line keeps the ends at 0, and asking for it is impossible.
+TieLine TieLineEnds(CurveRun& run) {
+    TieLine tie;
+    tie.failed = true;
+    if (run.row.tieLine == nullptr)
+        return tie;
+    tie = run.row.tieLine(run);
     tie.stepX = (static_cast<double>(tie.x2) - tie.x1) / (tieLinePoints - 1);
     tie.stepY = (static_cast<double>(tie.y2) - tie.y1) / (tieLinePoints - 1);
     return tie;
@@ -63,39 +67,19 @@ void DrawTieLine(CurveRun& run) {
 }
 
 void RunFamily(CurveRun& run) {
-    const DiagramRow* row = FindDiagram(run.spec.type);
-    if (row == nullptr) {
-        run.outcome.status = curveFault;
-        run.outcome.resultText = "Diagrammtyp " + std::to_string(run.spec.type) + " ist nicht vorhanden";
-        return;
-    }
     Prepare(run);
-    run.outcome.tie = TieLineEnds(*row, run);
+    run.outcome.tie = TieLineEnds(run);
     if (run.mode.tieLineMode) {
         DrawTieLine(run);
         return;
     }
-    row->family(run);
-    if (run.windowEmpty)
+    RestoreStart(run);
+    run.row.family(run);
+    if (run.windowEmpty && run.outcome.status != curveNoCriticalDensity)
         run.outcome.status = curveOutsideWindow;
 }
 
 } // namespace
-
-void CurveRun::Add(double x, double y, double z) {
-    AddOutsideTest(x, y, z);
-    if (windowEmpty && IsInWindow(x, y))
-        windowEmpty = false;
-}
-
-void CurveRun::AddOutsideTest(double x, double y, double z) {
-    if (FitsSingle(x) && FitsSingle(y) && FitsSingle(z))
-        curve.Add({static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)});
-}
-
-bool CurveRun::IsInWindow(double x, double y) const {
-    return spec.yMin < y && y < spec.yMax && spec.xMin < x && x < spec.xMax;
-}
 
 void GenerateCurve(SubstanceModel& model, Options& options, const CurveMode& mode, DiagramSpec& spec,
                    CurvePoints& curve, double T, double p, double v, CurveOutcome& outcome) {
@@ -110,7 +94,13 @@ void GenerateCurve(SubstanceModel& model, Options& options, const CurveMode& mod
         outcome.resultText = "Koordinatenfenster oder Punktzahl ist nicht brauchbar";
         return;
     }
-    CurveRun run{model, options, mode, spec, curve, outcome, T, p, v, 0, 0, true};
+    const DiagramRow* row = FindDiagram(spec.type);
+    if (row == nullptr) {
+        outcome.status = curveFault;
+        outcome.resultText = "Diagrammtyp " + std::to_string(spec.type) + " ist nicht vorhanden";
+        return;
+    }
+    CurveRun run{model, options, mode, spec, curve, outcome, *row, T, p, v};
     run.stepX = width / options.curvePoints;
     run.stepY = height / options.curvePoints;
     curve.Reserve(options.curvePoints + 3);

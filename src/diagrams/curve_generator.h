@@ -9,15 +9,19 @@
 #include "diagrams/tie_line.h"
 #include "state/options.h"
 #include "state/substance_model.h"
+#include "text/number_format.h"
 
 namespace orva {
 
 // How the next curve is wanted, beside its T, p, v.
 struct CurveMode {
-    double vapourFraction = 0;    // of a line inside the two-phase region
-    bool tieLineMode = false;     // the tie line of the current T or p
-    bool coexistenceMode = false; // the coexistence command is running
-    bool sCurveMode = false;      // only the part inside the two-phase region
+    double vapourFraction = 0;          // of a line inside the two-phase region
+    bool tieLineMode = false;           // the tie line of the current T or p
+    bool coexistenceMode = false;       // the coexistence command is running
+    bool sCurveMode = false;            // only the part inside the two-phase region
+    double limitLow = 0, limitHigh = 0; // kPa or K, of a diagram of two functions
+    double pMin = 0, pMax = 0;          // window of the pressure in display units, for lines of equilibrium
+    NumberStyle style;                  // of the numbers in the text of the outcome
 };
 
 // How a curve ended. The words for it are with the diagram window.

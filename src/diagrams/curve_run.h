@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
+
 #include "diagrams/curve_generator.h"
+#include "thermo/caloric_state.h"
 
 namespace orva {
+
+struct DiagramRow;
 
 // One run of the curve generator, as the family of the diagram type sees it. T and p are working variables.
 struct CurveRun {
@@ -13,23 +18,66 @@ struct CurveRun {
     DiagramSpec& spec;
     CurvePoints& curve;
     CurveOutcome& outcome;
+    const DiagramRow& row;
     double T = 0, p = 0, v = 0;
     double stepX = 0, stepY = 0;
     bool windowEmpty = true; // no point so far lay inside the window
+    std::optional<AmbientState> knownAmbient = std::nullopt;
 
     // Adds a point and tests it against the window, limits excluded. A value beyond single precision is
     // dropped.
     void Add(double x, double y, double z);
+    // The same, tested in y alone, as the caloric families do.
+    void AddTestingY(double x, double y, double z);
     // Adds a point that takes no part in the window test.
     void AddOutsideTest(double x, double y, double z);
     bool IsInWindow(double x, double y) const;
+
+    // Adds both ends of the tie line, in the order of their numbers.
+    void AddTieLineEnds(double z);
+    bool HasTieLine() const;
+
+    // A cubic equation below its critical temperature.
+    bool HasLoop() const;
+
+    // Brings the factor of the energies to T; only energies divided by R T depend on it.
+    void UseTemperature(double temperature);
+
+    // The ambient state of the exergies, evaluated once a curve.
+    const AmbientState& Ambient();
 };
 
+// What happens below the triple point: the loop ends, or the curve goes on under a warning.
+enum class TripRule : std::uint8_t {
+    Stop,           // ends where only real states are wanted, but not for the ideal gas
+    StopAnyEquation // the same for every equation
+};
+
+// False where the loop ends at `value`, a T against T(trip) or a p against p(trip).
+bool PassesTriplePoint(CurveRun& run, double value, double limit, TripRule rule);
+
+// True where `curveTpRestricted` leaves out what lies below the triple point; nothing is reported.
+bool IsBelowTriplePoint(const CurveRun& run, double value, double limit);
+
+// No grid of a sensible window comes near; a window of no extent around a far value would never end.
+inline constexpr int mostGridSteps = 20000;
+
 // Walks x from `first` to `last` by repeated addition of `step`, as every grid of the generator does; the
-// sums, not the products, are the abscissae. A negative step walks down.
+// sums, not the products, are the abscissae. A negative step walks down. `visit` returns false to end.
 template<typename Visit> void WalkGrid(double first, double last, double step, Visit visit) {
-    for (double x = first; step > 0 ? x <= last : x >= last; x += step)
-        visit(x);
+    int count = 0;
+    for (double x = first; (step > 0 ? x <= last : x >= last) && count < mostGridSteps; x += step, ++count)
+        if (!visit(x))
+            return;
+}
+
+// The same, with the last value exactly on `last`: the grid reaches `reach` of a step further, and what has
+// passed the end is set back to it.
+inline constexpr double clampReach = 0.9;
+template<typename Visit>
+void WalkClampedGrid(double first, double last, double step, Visit visit, double reach = clampReach) {
+    const auto clamped = [&](double x) { return (step > 0 ? x > last : x < last) ? last : x; };
+    WalkGrid(first, last + reach * step, step, [&](double x) { return visit(clamped(x)); });
 }
 
 } // namespace orva

@@ -2,6 +2,8 @@
 #include "diagrams/diagram_setup.h"
 
 #include "calc/units.h"
+#include "diagrams/axis_titles.h"
+#include "diagrams/database_curves.h"
 #include "state/constants.h"
 #include "text/columns.h"
 
@@ -9,7 +11,7 @@ namespace orva {
 
 namespace {
 
-constexpr std::int16_t basisReduced = 2;
+constexpr int logVapourPressure = 10; // its title ends with the name of the model
 constexpr std::int16_t basisSpecific = 3;
 constexpr double lastResortVolume = 2; // m^3/kmol
 
@@ -52,7 +54,7 @@ template<typename Table> std::string NameIn(const Table& table, int index) {
 
 std::string ModelName(const DiagramRecords& records, const DiagramRow& row) {
     const ModelSelection& selection = records.model.selection;
-    if (row.vapourPressureTitle && !selection.eosPriority)
+    if (NamesVapourPressure(row.type) && !selection.eosPriority)
         return NameIn(records.names.VaporPressureNames, selection.vaporPressure);
     return NameIn(records.names.EosNames, selection.eos);
 }
@@ -65,10 +67,12 @@ std::string WithBasisWord(std::string_view title, int unitBasis) {
     return text;
 }
 
-std::string TitleOf(const AxisRow& axis, const Options& options) {
-    if (options.volumeBasis == basisReduced)
-        return std::string(axis.reducedTitle);
-    return AxisTitle(axis.quantity, options);
+// The model, or the range of validity of a database function.
+std::string SubTitle(const DiagramRecords& records, const DiagramRow& row, const DiagramSpec& spec) {
+    if (row.curveKind != curveFunctionOfT)
+        return ", " + ModelName(records, row);
+    return ", Gültigkeit T = " + General(spec.dbTMin, records.style) + " ... "
+           + General(spec.dbTMax, records.style) + " K";
 }
 
 std::string SubstanceTitle(const SubstanceData& substance) {
@@ -79,20 +83,6 @@ std::string SubstanceTitle(const SubstanceData& substance) {
 }
 
 } // namespace
-
-std::string AxisTitle(Quantity quantity, const Options& options) {
-    switch (quantity) {
-    case Quantity::Temperature:
-        return "T / " + options.TUnit;
-    case Quantity::Pressure:
-        return "p / " + options.pUnit;
-    case Quantity::Volume:
-        return "v / (" + std::string(Trim(options.vUnit)) + ")";
-    case Quantity::None:
-        break;
-    }
-    return {};
-}
 
 void ApplyRanges(const DiagramRanges& ranges, DiagramSpec& spec) {
     const DiagramRow* row = FindDiagram(spec.type);
@@ -112,12 +102,16 @@ void SetUpDiagram(DiagramRecords& records, DiagramSpec& spec) {
     SetUnits(records.model, records.options);
     StartVolume(records.model, records.request);
     ApplyRanges(records.ranges, spec);
+    if (row->curveKind == curveFunctionOfT)
+        SetDatabaseWindow(records.model, records.options, spec);
     spec.headingText = SubstanceTitle(records.model.substance);
     spec.typeTitle = WithBasisWord(row->title, records.options.unitBasis);
+    if (row->type == logVapourPressure)
+        spec.typeTitle += ModelName(records, *row);
     spec.heading = spec.headingText + " Diagrammtyp:  " + spec.typeTitle;
-    spec.subTitle = ", " + ModelName(records, *row);
-    spec.xTitle = TitleOf(row->x, records.options);
-    spec.yTitle = TitleOf(row->y, records.options);
+    spec.subTitle = SubTitle(records, *row, spec);
+    spec.xTitle = AxisTitle(row->x.quantity, records.options);
+    spec.yTitle = AxisTitle(row->y.quantity, records.options);
 }
 
 void SelectDiagram(DiagramRecords& records, const DiagramRow& row, DiagramSpec& spec) {

@@ -17,7 +17,4 @@ void SetUpDiagram(DiagramRecords& records, DiagramSpec& spec);
 // Takes type, curveKind and curveCode from a row and sets the diagram up.
 void SelectDiagram(DiagramRecords& records, const DiagramRow& row, DiagramSpec& spec);
 
-// "v / (m^3/kmol)": quantity and unit of an axis that is not reduced.
-std::string AxisTitle(Quantity quantity, const Options& options);
-
 } // namespace orva

@@ -12,7 +12,15 @@ namespace orva {
 // of the loop or the whole of it. Without an equilibrium pressure there are no points.
 void IsothermPv(CurveRun& run);
 
-// Saturated liquid and vapour at T in the p-v diagram.
-TieLine IsothermPvTieLine(CurveRun& run);
+// p v and the density over p at constant T, with both saturated ends below T(cr).
+void IsothermPvOverP(CurveRun& run);
+void IsothermDensityOverP(CurveRun& run);
+
+// T over v or the density at constant p, with both saturated ends below p(cr).
+void IsobarOverVolume(CurveRun& run);
+void IsobarOverDensity(CurveRun& run);
+
+// p(T) at constant v. Where only real states are wanted it ends on the vapour-pressure curve.
+void IsochorSection(CurveRun& run);
 
 } // namespace orva

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diagrams/inversion_curves.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "state/constants.h"
+#include "thermo/phase_volumes.h"
+#include "thermo/residual_functions.h"
+#include "thermo/saturation.h"
+
+namespace orva {
+
+namespace {
+
+constexpr int mostMarchSteps = 300;
+constexpr double smallestStep = 0.001; // K
+constexpr double refinement = -0.1;
+constexpr int mostNewtonSteps = 200;
+constexpr double pressureIncrement = 0.0001; // kPa
+constexpr double relativeTolerance = 0.001;
+
+// The curve starts at low pressure, high in temperature.
+constexpr double startPressure = 0.02; // kPa
+constexpr double lowCriticalT = 200;   // K, below which a fixed start serves
+constexpr double fixedStart = 400;     // K
+constexpr int mostStarts = 50;
+constexpr double startDistance = 50; // K between two starts
+constexpr double upperMarch = -10;   // K
+constexpr double lowerMarch = 5;
+constexpr double lowerStart = 10.5;
+constexpr double leastPressure = 0.03; // kPa, in place of 0
+
+struct Coefficient {
+    double delta = 0, v = 0;
+    bool failed = true;
+};
+
+// The vapour where it exists; two phases side by side have no coefficient of their own.
+Coefficient JouleThomsonAt(SubstanceModel& model, double T, double p) {
+    PhaseVolumes phases;
+    EosPhaseVolumes(model, T, p, phases);
+    const bool both = phases.hasL && phases.hasV;
+    if (phases.failed || !(phases.hasL || phases.hasV) || (both && phases.rootCount == 3))
+        return {};
+    const double v = phases.hasV ? phases.vV : phases.vL;
+    const ResidualState state = ResidualFunctions(model, T, p, v);
+    return {state.table.jouleThomson, v, state.failed};
+}
+
+InversionResult HighestInversion(SubstanceModel& model) {
+    const double Tc = model.substance.Tc;
+    if (Tc < lowCriticalT)
+        return JouleThomsonInversionT(model, startPressure, fixedStart, upperMarch, 0, 1.3 * fixedStart);
+    double start = 5 * Tc;
+    for (int i = 0; i < mostStarts; ++i, start -= startDistance) {
+        const InversionResult found =
+            JouleThomsonInversionT(model, startPressure, start, upperMarch, 0, 1.3 * start);
+        if (!found.failed && found.value > 0)
+            return found;
+    }
+    return {};
+}
+
+// Adds the state at p, T; x is told apart, since the branches store it differently.
+void AddState(CurveRun& run, double x, double p, double T) {
+    PhaseVolumes phases;
+    EosPhaseVolumes(run.model, T, p, phases);
+    if (phases.failed || !(phases.hasL || phases.hasV))
+        return;
+    const double v = phases.hasL ? phases.vL : phases.vV;
+    run.Add(x, p * run.options.pFactor * v * run.options.volumeFactor, T);
+}
+
+} // namespace
+
+InversionResult JouleThomsonInversionT(SubstanceModel& model, double p, double start, double step,
+                                       double Tmin, double Tmax) {
+    double T = start - 2 * step;
+    double last = 0;
+    for (int i = 0; i < mostMarchSteps; ++i, T += step) {
+        if (!(T > Tmin && T < Tmax))
+            return {};
+        const Coefficient coefficient = JouleThomsonAt(model, T, p);
+        if (coefficient.failed || (i == 0 && coefficient.delta == 0))
+            return {};
+        if (i > 0 && coefficient.delta * last <= 0) {
+            step *= refinement;
+            if (std::abs(step) < smallestStep)
+                return {T, coefficient.v, false};
+        }
+        last = coefficient.delta;
+    }
+    return {};
+}
+
+InversionResult JouleThomsonInversionP(SubstanceModel& model, double T, double start) {
+    double p = start;
+    for (int i = 0; i < mostNewtonSteps; ++i) {
+        const Coefficient here = JouleThomsonAt(model, T, p);
+        const Coefficient beside = JouleThomsonAt(model, T, p + pressureIncrement);
+        const double slope = (beside.delta - here.delta) / pressureIncrement;
+        if (here.failed || beside.failed || slope == 0)
+            return {};
+        const double change = here.delta / slope;
+        p -= change;
+        if (!(p > 0) || !std::isfinite(p))
+            return {};
+        if (std::abs(change) / p < relativeTolerance)
+            return {p, here.v, false};
+    }
+    return {};
+}
+
+void InversionPvOverP(CurveRun& run) {
+    run.curve.SetZKind(zTemperature);
+    InversionResult last = HighestInversion(run.model);
+    if (last.failed)
+        return;
+    const double pFactor = run.options.pFactor;
+    const double xEnd = run.spec.xMax + 2 * run.stepX;
+    WalkGrid(run.spec.xMin, xEnd, 2 * run.stepX, [&](double x) {
+        const double given = x / pFactor;
+        const double p = given < missingValue ? leastPressure : given;
+        last = JouleThomsonInversionT(run.model, p, last.value, upperMarch, 0, 1.3 * last.value);
+        if (last.failed)
+            return false;
+        // Kept on purpose: x of this branch goes without the factor of the pressure.
+        AddState(run, p, p, last.value);
+        return true;
+    });
+    last.value = lowerStart;
+    WalkGrid(xEnd, run.spec.xMin, -2 * run.stepX, [&](double x) {
+        const double given = x / pFactor;
+        const double p = given < missingValue ? leastPressure : given;
+        const InversionResult found =
+            JouleThomsonInversionT(run.model, p, last.value, lowerMarch, 0, 4 * run.model.substance.Tc);
+        if (found.failed)
+            return true;
+        last = found;
+        AddState(run, p * pFactor, p, found.value);
+        return true;
+    });
+}
+
+void InversionPOverT(CurveRun& run) {
+    SubstanceModel& model = run.model;
+    constexpr double lowestT = 0.5; // K, in place of 0
+    run.curve.SetZKind(zVolume);
+    double start = model.substance.pc;
+    WalkGrid(run.spec.xMax, run.spec.xMin, -run.stepX / 3, [&](double x) {
+        const double given = x / run.options.TFactor;
+        const double T = given < missingValue ? lowestT : given;
+        if (run.options.curveTpRestricted && T < model.substance.Ttrip)
+            return false;
+        const InversionResult found = JouleThomsonInversionP(model, T, start);
+        if (found.value > 0)
+            start = found.value;
+        if (T < model.substance.Tc) {
+            const double pLV = EosSaturationPressure(model, T).value;
+            if (found.value > 0 && found.value < pLV) {
+                run.Add(T * run.options.TFactor, pLV * run.options.pFactor, model.work.Roots[0]);
+                return false;
+            }
+        }
+        if (!found.failed && found.value != 0)
+            run.Add(T * run.options.TFactor, found.value * run.options.pFactor, found.v);
+        return true;
+    });
+}
+
+} // namespace orva
