@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace orva {
 
@@ -69,6 +70,7 @@ struct CalculationState {
     bool FunctionList = false;
     double diagramTemperature = 298.15; // K, for energies divided by R T
     EosStateRecord eosState;
+    std::string CurrentModelText; // the models of the last result, as list and protocol name them
 };
 
 } // namespace orva

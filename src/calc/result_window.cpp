@@ -56,8 +56,10 @@ std::string ResultWindow::StatusLine() const {
     const ModelSelection& selection = context.model.selection;
     const auto eos = static_cast<std::size_t>(std::max<int>(selection.eos, 0));
     const auto vaporPressure = static_cast<std::size_t>(selection.vaporPressure);
-    std::string line = std::string(Trim(context.names.EosNames.at(eos))) + "; "
-                       + std::string(Trim(context.names.VaporPressureNames.at(vaporPressure))) + "; ";
+    context.calculation.CurrentModelText =
+        std::string(Trim(context.names.EosNames.at(eos))) + "; "
+        + std::string(Trim(context.names.VaporPressureNames.at(vaporPressure)));
+    std::string line = context.calculation.CurrentModelText + "; ";
     line += " T(cr)/K = " + Format(substance.Tc, "###.##", pointStyle);
     if (substance.pc > 0)
         line += "; p(cr)/kPa =" + Str(static_cast<float>(substance.pc), pointStyle);

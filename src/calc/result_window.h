@@ -14,7 +14,8 @@ public:
 
     // "Ergebnis der Berechnung  T, p => rho" and the like.
     std::string Caption() const;
-    // The line under the report: models and critical data, with points whatever the system's separator.
+    // The line under the report: models and critical data, with points whatever the system's separator. It
+    // also settles the model text of list and protocol.
     std::string StatusLine() const;
     std::string InputCaption() const { return " Vorgabewert Direkteingabe "; }
     std::string CloseText() const { return "Schließen"; }
