@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QTimer>
 #include <QTranslator>
 
 #include "platform/qt_machine.h"
 #include "platform/qt_program_runner.h"
+#include "platform/qt_settings.h"
 #include "ui/qt_dialogs.h"
 #include "ui/shell/main_window.h"
 
@@ -19,8 +21,10 @@ int main(int argc, char* argv[]) {
     const orva::QtMachine machine;
     orva::QtDialogs dialogs;
     orva::QtProgramRunner runner;
-    orva::Session session(machine, dialogs, &runner);
+    orva::QtSettings settings;
+    orva::Session session(machine, dialogs, &runner, &settings);
     orva::mdiORVA window(session);
     window.show();
+    QTimer::singleShot(0, &window, &orva::mdiORVA::StartUp);
     return QApplication::exec();
 }

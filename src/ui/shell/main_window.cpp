@@ -4,15 +4,18 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
-#include <QSettings>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "shell/exit.h"
 #include "ui/place_window.h"
 #include "ui/shell/icons.h"
+#include "ui/shell/tip_window.h"
 #include "ui/text.h"
+#include "ui/window_places.h"
 
 namespace orva {
 
@@ -20,7 +23,7 @@ namespace {
 
 constexpr int spacerWidth = 5; // of a toolbar index without a button
 constexpr QSize startSize(1120, 760);
-const QString geometryKey = QStringLiteral("mainWindow/geometry");
+constexpr QSize smallestSize(640, 420);
 
 struct ToolbarPicture {
     int index;
@@ -54,8 +57,9 @@ mdiORVA::mdiORVA(Session& ownSession, QWidget* parent)
     connect(menu, &CommandMenu::Opening, this, &mdiORVA::MenuOpening);
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_F4), this), &QShortcut::activated, this,
             &QWidget::close);
+    setMinimumSize(smallestSize);
     resize(startSize);
-    restoreGeometry(QSettings().value(geometryKey).toByteArray());
+    new WindowPlaces(this);
     Refresh();
     startPage->FocusCurrentStep();
 }
@@ -66,11 +70,16 @@ void mdiORVA::BuildCentre() {
     auto* centre = new QWidget(this);
     hint = new FirstUserHint(centre);
     startPage = new StartPage(*menu, centre);
+    auto* scroll = new QScrollArea(centre); // for screens that are smaller than the page
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(startPage);
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(hint);
-    column->addWidget(startPage, 1);
+    column->addWidget(scroll, 1);
     setCentralWidget(centre);
 }
 
@@ -93,8 +102,10 @@ void mdiORVA::BuildToolbar() {
         QAction* button = bar->addAction(ToolbarIcon(row.index), ToQt(row.toolTip).trimmed());
         button->setObjectName(ControlName("toolbar", row.index));
         button->setToolTip(ToQt(row.toolTip));
-        if (const int command = FindCommand(row.command); command >= 0)
-            connect(button, &QAction::triggered, this, [this, command] { RunCommand(command); });
+        connect(button, &QAction::triggered, this, [this, row] {
+            if (const int command = ToolbarCommand(row, session.model.selection); command >= 0)
+                RunCommand(command);
+        });
         toolbarButtons.emplace_back(row.index, button);
     }
     addSpacer(QSizePolicy::Expanding);
@@ -126,7 +137,7 @@ void mdiORVA::BuildStatusBar() {
 void mdiORVA::Refresh() {
     menu->Refresh(session.commands);
     for (const auto& [index, button] : toolbarButtons)
-        button->setEnabled(session.commands.ToolbarEnabled(index));
+        button->setEnabled(session.commands.ToolbarEnabled(index, session.model.selection));
     for (std::size_t i = 0; i < panels.size(); ++i) {
         const QString text = ToQt(session.statusPanels[i]).simplified();
         panels[i]->setText(text);
@@ -175,9 +186,10 @@ void mdiORVA::ListWindows() {
 }
 
 void mdiORVA::closeEvent(QCloseEvent* event) {
-    QSettings().setValue(geometryKey, saveGeometry());
-    for (QWidget* form : OpenForms())
-        form->close();
+    EndSession(session, [this] {
+        for (QWidget* form : OpenForms())
+            form->close();
+    });
     event->accept();
 }
 

@@ -19,6 +19,7 @@ namespace orva {
 class DiagramDesk;
 class frmCalcOut;
 class frmParinput;
+class frmTip;
 
 // The main window. It owns menu, toolbar and status bar, runs the commands, and opens the other windows.
 class mdiORVA : public QMainWindow {
@@ -26,6 +27,10 @@ class mdiORVA : public QMainWindow {
 public:
     explicit mdiORVA(Session& session, QWidget* parent = nullptr);
     ~mdiORVA() override;
+
+    // What the program does once its window stands: it offers the rows of a protocol that a session before
+    // could not write, and shows the tips.
+    void StartUp();
 
     // Runs the action of a command, if it and the menus above it are enabled.
     void RunCommand(int row);
@@ -44,7 +49,6 @@ protected:
 
 private:
     using Handler = void (mdiORVA::*)(const CommandRow&);
-    bool IsReachable(int row) const;
     static Handler HandlerOf(CommandAction action);
 
     void BuildToolbar();
@@ -65,8 +69,10 @@ private:
     void Calculate(const CommandRow& command);
     void DrawDiagram(const CommandRow& command);
     void CloseStaleDiagram();
+    void ShowTips(const CommandRow& command);
     void ShowAbout(const CommandRow& command);
 
+    void OpenTips();
     void SwitchHint();
     void AskForPoint();
 
@@ -80,6 +86,8 @@ private:
     DiagramDesk* diagramDesk = nullptr; // made with the first diagram
     QPointer<frmCalcOut> resultWindow;
     QPointer<frmParinput> inputWindow;
+    QPointer<frmTip> tipWindow;
+    bool showTipsExplicitly = false;
 };
 
 } // namespace orva

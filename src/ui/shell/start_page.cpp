@@ -38,6 +38,7 @@ QWidget* Heading(QWidget* parent) {
     auto* purpose = MutedLabel(QStringLiteral("Zustände und Prozesse reiner Stoffe: Zustandsgleichungen, "
                                               "Phasengleichgewicht, Diagramme"),
                                heading);
+    purpose->setWordWrap(true);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     texts->addWidget(name);
