@@ -14,8 +14,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view extension = ".CSV";
-constexpr const char* recoveryName = "ORVAPROT.REC";
-constexpr const char* refusedRecoveryName = "ORVAPROT.BAK";
 
 // "dd.mm.yyyy", the date text that the parts of the name are cut from.
 std::string GermanDate(std::chrono::year_month_day date) {
@@ -49,17 +47,16 @@ std::string RowCountText(int count) {
     return std::to_string(count) + (count == 1 ? " Zeile" : " Zeilen");
 }
 
-Question RecoveryQuestion(const ProtocolRecovery& recovery) {
-    std::string text = "Die letzte Sitzung wurde nicht ordentlich beendet. Ihr Protokoll mit ";
+Question RecoveryQuestion(const ProtocolRecovery& recovery, const std::string& refusedName) {
+    std::string text = "Die letzte Sitzung wurde nicht ordentlich beendet.\nIhr Protokoll mit ";
     text += RowCountText(static_cast<int>(recovery.rows.size()));
     if (!recovery.head.substance.empty())
         text += " (Stoff: " + recovery.head.substance + ")";
     text += " ist noch nicht gespeichert.\n";
     if (recovery.damagedRows > 0)
         text += RowCountText(recovery.damagedRows) + " nicht mehr lesbar.\n";
-    text +=
-        "\nMöchten Sie diese Zeilen in das Protokoll übernehmen?\n\n(Bei \"Nein\" bleiben sie in der Datei "
-        + std::string(refusedRecoveryName) + ".)";
+    text += "\nMöchten Sie diese Zeilen in das Protokoll übernehmen?\n(Bei \"Nein\" bleiben sie in der Datei "
+            + refusedName + ".)";
     return {"Protokoll wiederherstellen", text};
 }
 
@@ -75,20 +72,22 @@ std::string NewProtocolFileName(const Machine& machine) {
     return FileName(day, number);
 }
 
+fs::path ProtocolRecoveryFile(const Machine& machine, int number) {
+    const std::string counter = number > 1 ? std::to_string(number) : std::string();
+    return machine.WritableFolder() / ("ORVAPROT" + counter + ".REC");
+}
+
 Protocol::Protocol(const Machine& ownMachine, Dialogs& ownDialogs)
-    : protocolFile(NewProtocolFileName(ownMachine)), machine(ownMachine), dialogs(ownDialogs) {}
+    : protocolFile(NewProtocolFileName(ownMachine)), machine(ownMachine), dialogs(ownDialogs),
+      ownName(protocolFile) {}
 
 fs::path Protocol::FullPath() const {
     const bool hasFolder = protocolFile.find_first_of("\\/") != std::string::npos;
     return hasFolder ? PathOf(protocolFile) : machine.WritableFolder() / PathOf(protocolFile);
 }
 
-fs::path Protocol::RecoveryFile() const {
-    return machine.WritableFolder() / recoveryName;
-}
-
 fs::path Protocol::RefusedRecoveryFile() const {
-    return machine.WritableFolder() / refusedRecoveryName;
+    return RecoveryFile().replace_extension(".BAK");
 }
 
 ProtocolHead Protocol::CurrentHead(const CalculationContext& context) const {
@@ -123,14 +122,17 @@ void Protocol::KeepRecovery(const CalculationContext& context) {
 bool Protocol::WriteProtocol(const CalculationContext& context) {
     const std::string text =
         ProtocolText(CurrentHead(context), table, context.options.listSeparator, context.style);
-    if (WriteFile(FullPath(), Windows1252FromUtf8(text)))
+    if (WriteFile(FullPath(), Windows1252FromUtf8(text))) {
+        written = true;
         return true;
+    }
     dialogs.Show({"Ausgabe-Fehler", "Die Datei kann nicht geschrieben werden:\n" + PathText(FullPath()),
                   MessageIcon::Exclamation});
     return false;
 }
 
 std::optional<std::string> Protocol::OpenNew(const CalculationContext& context) {
+    LeaveForeignFile();
     if (open && !WriteProtocol(context))
         return std::nullopt;
     RemoveIfEmpty();
@@ -140,16 +142,23 @@ std::optional<std::string> Protocol::OpenNew(const CalculationContext& context) 
     return text;
 }
 
+void Protocol::LeaveForeignFile() {
+    if (open && !written && protocolFile == ownName && FileExists(FullPath()))
+        protocolFile = ownName = NewProtocolFileName(machine);
+}
+
 void Protocol::Begin() {
     if (open)
         RemoveRecovery();
-    protocolFile = NewProtocolFileName(machine);
+    protocolFile = ownName = NewProtocolFileName(machine);
+    written = false;
     open = false;
     table.clear();
     recoveredHead.reset();
 }
 
 void Protocol::Close(const CalculationContext& context) {
+    LeaveForeignFile();
     if (open && WriteProtocol(context)) {
         RemoveRecovery();
         open = false;
@@ -176,7 +185,7 @@ void Protocol::OfferRecovery() {
     ProtocolRecovery recovery = ParseRecovery(*bytes);
     if (recovery.rows.empty())
         return;
-    if (!dialogs.Ask(RecoveryQuestion(recovery))) {
+    if (!dialogs.Ask(RecoveryQuestion(recovery, PathText(RefusedRecoveryFile().filename())))) {
         std::error_code ignored;
         fs::rename(RecoveryFile(), RefusedRecoveryFile(), ignored);
         return;
@@ -186,7 +195,7 @@ void Protocol::OfferRecovery() {
     open = true;
     if (IsPlainProtocolName(recovery.protocolFile)
         && !FileExists(machine.WritableFolder() / PathOf(recovery.protocolFile)))
-        protocolFile = recovery.protocolFile;
+        protocolFile = ownName = recovery.protocolFile;
 }
 
 } // namespace orva

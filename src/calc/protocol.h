@@ -16,6 +16,9 @@ namespace orva {
 // file is written over.
 std::string NewProtocolFileName(const Machine& machine);
 
+// The recovery file of program `number` of those that run side by side: "ORVAPROT.REC", "ORVAPROT2.REC", ...
+std::filesystem::path ProtocolRecoveryFile(const Machine& machine, int number);
+
 // The protocol of the session: calculated points as rows of one table, collected across calculations and
 // written when the user asks for it or leaves. Every recorded row also goes to a recovery file at once, which
 // an orderly end removes and otherwise the next start offers.
@@ -24,8 +27,12 @@ public:
     Protocol(const Machine& machine, Dialogs& dialogs);
 
     // Name of the file that the rows will go to; a name without a folder lies in the folder for written
-    // files.
+    // files. Where another running program has meanwhile written a file under the name given out here, the
+    // rows go to the next free one.
     std::string protocolFile;
+
+    // Programs that run side by side count from 1, each with a recovery file of its own.
+    int programNumber = 1;
 
     bool protocolOpen() const { return open; }
     int protocolRows() const { return static_cast<int>(table.size()); }
@@ -51,12 +58,13 @@ public:
     // are not wanted stay in a file beside, until the next ones are.
     void OfferRecovery();
 
-    std::filesystem::path RecoveryFile() const;
-    std::filesystem::path RefusedRecoveryFile() const;
+    std::filesystem::path RecoveryFile() const { return ProtocolRecoveryFile(machine, programNumber); }
+    std::filesystem::path RefusedRecoveryFile() const; // the same with the ending ".BAK"
 
 private:
     ProtocolHead CurrentHead(const CalculationContext& context) const;
     void Begin();
+    void LeaveForeignFile();
     void KeepRecovery(const CalculationContext& context);
     void RemoveRecovery() const;
     void RemoveIfEmpty() const;
@@ -66,6 +74,8 @@ private:
     Dialogs& dialogs;
     bool open = false;
     bool recoveryFailureSaid = false;
+    std::string ownName;  // the name given out
+    bool written = false; // and that the file of this name is this protocol
     std::vector<ProtocolRow> table;
     std::optional<ProtocolHead> recoveredHead; // of rows taken over, as long as none is added to them
 };

@@ -4,9 +4,11 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include "platform/program_number.h"
 #include "platform/qt_machine.h"
 #include "platform/qt_program_runner.h"
 #include "platform/qt_settings.h"
+#include "text/text_file.h"
 #include "ui/qt_dialogs.h"
 #include "ui/shell/main_window.h"
 
@@ -23,6 +25,10 @@ int main(int argc, char* argv[]) {
     orva::QtProgramRunner runner;
     orva::QtSettings settings;
     orva::Session session(machine, dialogs, &runner, &settings);
+    const orva::ProgramNumber number(machine.WritableFolder(), [&machine](int candidate) {
+        return orva::FileExists(orva::ProtocolRecoveryFile(machine, candidate));
+    });
+    session.protocol.programNumber = number.Number();
     orva::mdiORVA window(session);
     window.show();
     QTimer::singleShot(0, &window, &orva::mdiORVA::StartUp);

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "platform/program_number.h"
 #include "platform/qt_settings.h"
 #include "text/text_file.h"
 #include "ui/diagrams/diagram_window_view.h"
@@ -86,6 +87,29 @@ TEST_F(ShellHabits, StoreOfTheUserKeepsNumbers) {
     EXPECT_EQ(store.Number("Options", "Show Tips at Startup"), std::nullopt);
 }
 
+TEST_F(ShellHabits, ProgramsSideBySideHaveNumbersOfTheirOwn) {
+    const auto none = [](int) { return false; };
+    const std::filesystem::path folder = machine.WritableFolder();
+    auto first = std::make_unique<ProgramNumber>(folder, none);
+    const ProgramNumber second(folder, none);
+    EXPECT_EQ(first->Number(), 1);
+    EXPECT_EQ(second.Number(), 2);
+    first.reset();
+    EXPECT_EQ(ProgramNumber(folder, none).Number(), 1);
+    EXPECT_EQ(ProgramNumber(folder / "missing", none).Number(), 1);
+    // What a program leaves that was killed: its number, and no process behind it.
+    ASSERT_TRUE(
+        WriteFile(Path("ORVA1.LCK"), "2147483646\norva\n" + FromQt(QSysInfo::machineHostName()) + "\n"));
+    EXPECT_EQ(ProgramNumber(folder, none).Number(), 1);
+}
+
+TEST_F(ShellHabits, ANumberThatLeftWorkBehindIsTakenFirstUnlessItsProgramRuns) {
+    const auto second = [](int number) { return number == 2; };
+    const ProgramNumber recovering(machine.WritableFolder(), second);
+    EXPECT_EQ(recovering.Number(), 2);
+    EXPECT_EQ(ProgramNumber(machine.WritableFolder(), second).Number(), 1);
+}
+
 TEST_F(ShellHabits, EveryWindowOpensWhereItWasLeft) {
     frmStoffWahl* form = OpenDatabase();
     ASSERT_NE(form, nullptr);
@@ -158,12 +182,18 @@ TEST_F(ShellHabits, ABrokenPlaceIsIgnored) {
         [&] { return window->screen()->availableGeometry().contains(window->frameGeometry()); }, 2000));
 }
 
-TEST_F(ShellHabits, TheMainWindowFitsASmallScreen) {
-    window->resize(640, 420);
-    EXPECT_EQ(window->size(), QSize(640, 420));
+TEST_F(ShellHabits, TheMainWindowFitsASmallScreenWithAllItsButtons) {
+    window->resize(1, 1);
+    EXPECT_LE(window->width(), 800);
+    EXPECT_LE(window->height(), 480);
     const auto* page = window->findChild<QScrollArea*>();
     ASSERT_NE(page, nullptr);
-    EXPECT_TRUE(page->widget()->inherits("orva::StartPage"));
+    EXPECT_FALSE(page->horizontalScrollBar()->isVisible());
+    for (const char* command : {"mnuData_OpenBank", "mnuCalcMain", "mnu3D"}) {
+        const auto* button = In<QPushButton>(window.get(), qPrintable(QStringLiteral("cmd_") + command));
+        const int right = button->mapTo(page->viewport(), button->rect().bottomRight()).x();
+        EXPECT_LT(right, page->viewport()->width()) << command;
+    }
 }
 
 TEST_F(ShellHabits, BoxesHaveNoPlaceOfTheirOwn) {

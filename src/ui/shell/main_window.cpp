@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/shell/main_window.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -23,7 +26,7 @@ namespace {
 
 constexpr int spacerWidth = 5; // of a toolbar index without a button
 constexpr QSize startSize(1120, 760);
-constexpr QSize smallestSize(640, 420);
+constexpr int smallestHeight = 420;
 
 struct ToolbarPicture {
     int index;
@@ -57,7 +60,9 @@ mdiORVA::mdiORVA(Session& ownSession, QWidget* parent)
     connect(menu, &CommandMenu::Opening, this, &mdiORVA::MenuOpening);
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_F4), this), &QShortcut::activated, this,
             &QWidget::close);
-    setMinimumSize(smallestSize);
+    const int pageWidth =
+        startPage->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    setMinimumSize(std::max(pageWidth, menuBar()->sizeHint().width()), smallestHeight);
     resize(startSize);
     new WindowPlaces(this);
     Refresh();
@@ -74,6 +79,7 @@ void mdiORVA::BuildCentre() {
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(startPage);
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);

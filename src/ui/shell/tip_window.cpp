@@ -54,6 +54,9 @@ QWidget* frmTip::TipPanel() {
     lblTip->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     lblTip->setForegroundRole(QPalette::Text);
     lblTip->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont readable = lblTip->font();
+    readable.setPointSizeF(readable.pointSizeF() * 1.1);
+    lblTip->setFont(readable);
     lblTip->setMinimumHeight(lblTip->fontMetrics().lineSpacing() * tipLines);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(8);
