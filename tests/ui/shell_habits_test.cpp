@@ -196,6 +196,32 @@ TEST_F(ShellHabits, TheMainWindowFitsASmallScreenWithAllItsButtons) {
     }
 }
 
+// However small a user draws a window, it stays one to work with.
+TEST_F(ShellHabits, EveryWindowHasASensibleSmallestSize) {
+    const auto squeeze = [](QWidget* form) {
+        ASSERT_NE(form, nullptr);
+        form->resize(1, 1);
+        EXPECT_GE(form->width(), 240) << FromQt(form->objectName());
+        EXPECT_GE(form->height(), 60) << FromQt(form->objectName());
+        EXPECT_LE(form->width(), 800) << FromQt(form->objectName());
+        EXPECT_LE(form->height(), 700) << FromQt(form->objectName());
+    };
+    frmStoffWahl* substances = OpenDatabase();
+    squeeze(substances);
+    substances->close();
+    frmQModell* models = ChooseSubstance("n-Butan");
+    squeeze(models);
+    ClickButton(models, "OKModell");
+    squeeze(StartTP());
+    squeeze(Find<frmCalcOut>());
+    Find<frmCalcOut>()->close();
+    Choose("mnuGraf(0)", "mnuGraf_sub_cut(1)");
+    squeeze(Wait<frmTpVSInputBox>());
+    squeeze(Find<frmGraph2D>());
+    Choose("mnuHilfe", "mnuHilfe_Tip");
+    squeeze(Wait<frmTip>());
+}
+
 TEST_F(ShellHabits, BoxesHaveNoPlaceOfTheirOwn) {
     QMessageBox box(window.get());
     box.setObjectName("messageBox");

@@ -16,7 +16,6 @@
 #include "shell/exit.h"
 #include "ui/place_window.h"
 #include "ui/shell/icons.h"
-#include "ui/shell/tip_window.h"
 #include "ui/text.h"
 #include "ui/window_places.h"
 
