@@ -87,7 +87,7 @@ struct CalculationState {
     bool FunctionList = false;
     double diagramTemperature = 298.15; // K, for energies divided by R T
     EosStateRecord eosState;
-    std::string CurrentModelText; // models and critical data, as list and protocol name them
+    std::string CurrentModelText; // the models of the last result, as list and protocol name them
     VesselInput vessel;
     VesselResult vesselResult;
 };

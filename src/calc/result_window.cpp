@@ -90,13 +90,17 @@ std::string WindowTitle(const CalculationState& calculation) {
 
 } // namespace
 
-std::string ModelDescription(const CalculationContext& context) {
-    const SubstanceData& substance = context.model.substance;
+std::string ModelText(const CalculationContext& context) {
     const ModelSelection& selection = context.model.selection;
     const auto eos = static_cast<std::size_t>(std::max<int>(selection.eos, 0));
     const auto vaporPressure = static_cast<std::size_t>(selection.vaporPressure);
-    std::string line = std::string(Trim(context.names.EosNames.at(eos))) + "; "
-                       + std::string(Trim(context.names.VaporPressureNames.at(vaporPressure))) + "; ";
+    return std::string(Trim(context.names.EosNames.at(eos))) + "; "
+           + std::string(Trim(context.names.VaporPressureNames.at(vaporPressure)));
+}
+
+std::string ModelDescription(const CalculationContext& context) {
+    const SubstanceData& substance = context.model.substance;
+    std::string line = ModelText(context) + "; ";
     line += " T(cr)/K = " + Format(substance.Tc, "###.##", pointStyle);
     if (substance.pc > 0)
         line += "; p(cr)/kPa =" + Str(static_cast<float>(substance.pc), pointStyle);
@@ -110,7 +114,8 @@ std::string ModelDescription(const CalculationContext& context) {
 ResultWindow::ResultWindow(CalculationContext calculationContext)
     : context(calculationContext), batchResults(std::max<std::size_t>(context.batch.rows.size(), 1)) {
     CalculationState& calculation = context.calculation;
-    calculation.CurrentModelText = ModelDescription(context);
+    calculation.CurrentModelText = ModelText(context);
+    statusLine = ModelDescription(context);
     calculation.ExtendedLevel = 1;
     calculation.FunctionList = IsEquilibrium(calculation.CalcKind) && calculation.GlobalMethod;
     windowTitle = WindowTitle(calculation);

@@ -28,7 +28,7 @@ public:
     // The title of the calculation, as the result list has it.
     const std::string& Title() const { return windowTitle; }
     // The line under the report: models and critical data, with points whatever the system's separator.
-    const std::string& StatusLine() const { return context.calculation.CurrentModelText; }
+    const std::string& StatusLine() const { return statusLine; }
     const std::string& InputCaption() const { return inputCaption; }
     std::string CloseText() const { return context.options.batchMode ? "Beenden (+Ausgabe)" : "Schließen"; }
 
@@ -72,6 +72,7 @@ private:
     PointResult result;
     std::vector<ResultRecord> batchResults;
     std::string windowTitle;
+    std::string statusLine;
     std::string inputCaption;
     std::array<bool, 2> extensions{};
     ResultOutput output = ResultOutput::None;
@@ -82,7 +83,8 @@ private:
 // Short title of a calculation kind, with its leading blank.
 std::string_view ShortTitle(int kind);
 
-// Models and critical data in one line, as result list and protocol name them.
+// The models in words, as result list and protocol name them; and with the critical data.
+std::string ModelText(const CalculationContext& context);
 std::string ModelDescription(const CalculationContext& context);
 
 } // namespace orva

@@ -23,4 +23,12 @@ std::filesystem::path ProgramMachine::WritableFolder() const {
     return ownFolder->path().toStdU16String();
 }
 
+std::chrono::year_month_day ProgramMachine::Today() const {
+    return QtMachine().Today();
+}
+
+std::string ProgramMachine::ShortDate() const {
+    return QtMachine().ShortDate();
+}
+
 } // namespace orva

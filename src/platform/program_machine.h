@@ -20,6 +20,8 @@ public:
     std::filesystem::path InstallationFolder() const override { return installationFolder; }
     std::filesystem::path WritableFolder() const override;
     bool DecimalComma() const override { return decimalComma; }
+    std::chrono::year_month_day Today() const override;
+    std::string ShortDate() const override;
 
 private:
     std::filesystem::path installationFolder;

@@ -2,6 +2,7 @@
 #include "platform/qt_machine.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -32,6 +33,16 @@ std::filesystem::path QtMachine::WritableFolder() const {
 
 bool QtMachine::DecimalComma() const {
     return QLocale::system().toString(0.75).contains(QLatin1Char(','));
+}
+
+std::chrono::year_month_day QtMachine::Today() const {
+    const QDate today = QDate::currentDate();
+    return {std::chrono::year(today.year()), std::chrono::month(static_cast<unsigned>(today.month())),
+            std::chrono::day(static_cast<unsigned>(today.day()))};
+}
+
+std::string QtMachine::ShortDate() const {
+    return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
 }
 
 } // namespace orva

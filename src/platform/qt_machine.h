@@ -11,6 +11,8 @@ public:
     std::filesystem::path InstallationFolder() const override;
     std::filesystem::path WritableFolder() const override;
     bool DecimalComma() const override;
+    std::chrono::year_month_day Today() const override;
+    std::string ShortDate() const override;
 };
 
 } // namespace orva

@@ -228,19 +228,29 @@ bool CommandStates::Enabled(int row) const {
     return command.kind == CommandKind::Menu ? HasBuiltEntry(row) : command.action != CommandAction::None;
 }
 
+bool CommandStates::Reachable(int row) const {
+    for (int at = row; at >= 0;) {
+        if (!Enabled(at))
+            return false;
+        const CommandRow& command = CommandTable()[static_cast<std::size_t>(at)];
+        at = command.parent.empty() ? -1 : FindCommand(command.parent, command.parentIndex);
+    }
+    return true;
+}
+
 bool CommandStates::ToolbarAllowed(int buttonIndex) const {
     const int position = ToolbarPosition(buttonIndex);
     return position >= 0 && toolbar.at(static_cast<std::size_t>(position));
 }
 
-bool CommandStates::ToolbarEnabled(int buttonIndex) const {
+bool CommandStates::ToolbarEnabled(int buttonIndex, const ModelSelection& selection) const {
     if (!ToolbarAllowed(buttonIndex))
         return false;
     const ToolbarRow& button = ToolbarTable()[static_cast<std::size_t>(ToolbarPosition(buttonIndex))];
     if (button.action != CommandAction::None)
         return true;
-    const int row = FindCommand(button.command);
-    return row >= 0 && Enabled(row);
+    const int row = ToolbarCommand(button, selection);
+    return row >= 0 && Reachable(row);
 }
 
 } // namespace orva

@@ -44,13 +44,15 @@ public:
     void Apply(SessionEvent event, const PhaseFacts& facts);
 
     bool Enabled(int row) const;
+    // Enabled with all menus above it.
+    bool Reachable(int row) const;
     bool Visible(int row) const { return states.at(static_cast<std::size_t>(row)).visible; }
     const std::string& Text(int row) const { return states.at(static_cast<std::size_t>(row)).text; }
     // What the rules alone say, without regard to whether the command is built.
     bool Allowed(int row) const { return states.at(static_cast<std::size_t>(row)).enabled; }
 
     bool ToolbarAllowed(int buttonIndex) const;
-    bool ToolbarEnabled(int buttonIndex) const;
+    bool ToolbarEnabled(int buttonIndex, const ModelSelection& selection = {}) const;
 
 private:
     struct State {

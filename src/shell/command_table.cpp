@@ -13,7 +13,8 @@ namespace {
 using enum CommandKind;
 using enum CommandAction;
 
-constexpr int isotherm = 1; // diagram type of the section p - v
+constexpr int globalVessel = 15, partialVessel = 16; // entries of the calculation menu
+constexpr int isotherm = 1;                          // diagram type of the section p - v
 
 // clang-format off
 constexpr CommandRow commandTable[] = {
@@ -174,7 +175,7 @@ constexpr CommandRow commandTable[] = {
     {"mnuHilfe", noIndex, "", noIndex, "&Hilfe...", Menu},
     {"mnuHilfe_About", noIndex, "mnuHilfe", noIndex, "Über das Programm", Command, About},
     {"mnuHilfe_Index", noIndex, "mnuHilfe", noIndex, "Hilfeindex"},
-    {"mnuHilfe_Tip", noIndex, "mnuHilfe", noIndex, "Zeige Tipps"},
+    {"mnuHilfe_Tip", noIndex, "mnuHilfe", noIndex, "Zeige Tipps", Command, ShowTips},
     {"mnuHilfe_AboutText", noIndex, "mnuHilfe", noIndex, "ORVA-6, Lizenz und Kontakt", Command, About},
 };
 
@@ -183,8 +184,8 @@ constexpr ToolbarRow toolbarTable[] = {
     {4, " Letzte Sitzung laden ", "mnuData_LoadLastSession"},
     {6, " Existierendes Projekt laden ", "mnuData_LoadProject"},
     {7, " Aktuelles Projekt speichern ", "mnuData_SaveProject"},
-    {11, " Normierung thermodynamischer Funktionen ", "", ShowReference},
-    {15, " Behälterberechnung (Global-Methode)", ""},
+    {11, " Normierung thermodynamischer Funktionen ", "", noIndex, ShowReference},
+    {15, " Behälterberechnung (Global-Methode)", "mnuCalc", globalVessel},
 };
 // clang-format on
 
@@ -196,6 +197,12 @@ std::span<const CommandRow> CommandTable() {
 
 std::span<const ToolbarRow> ToolbarTable() {
     return toolbarTable;
+}
+
+int ToolbarCommand(const ToolbarRow& button, const ModelSelection& selection) {
+    const bool isVessel = button.commandIndex == globalVessel;
+    return FindCommand(button.command,
+                       isVessel && !selection.eosPriority ? partialVessel : button.commandIndex);
 }
 
 std::string CommandKey(std::string_view name, int index) {

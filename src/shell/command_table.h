@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "state/model_selection.h"
+
 namespace orva {
 
 // What choosing a command starts. A command without an action is there, in its place and disabled, until the
@@ -22,6 +24,7 @@ enum class CommandAction : std::uint8_t {
     Draw,      // argument: diagram type
     ShowOptions,
     ShowReference,
+    ShowTips,
     About
 };
 
@@ -54,10 +57,15 @@ int FindCommand(std::string_view name, int index = noIndex);
 struct ToolbarRow {
     int index;
     std::string_view toolTip;
-    std::string_view command;                   // the menu command behind it, empty if it has none
+    std::string_view command; // the menu command behind it, empty if it has none
+    int commandIndex = noIndex;
     CommandAction action = CommandAction::None; // of a button without a menu command
 };
 
 std::span<const ToolbarRow> ToolbarTable();
+
+// Row of the menu command behind a button, -1 for none. The vessel button follows the priority of the
+// equations: the global method with the equation of state, the partial one with the vapour pressure.
+int ToolbarCommand(const ToolbarRow& button, const ModelSelection& selection);
 
 } // namespace orva

@@ -4,7 +4,7 @@
 #include "diagrams/default_ranges.h"
 #include "substance/substance_choice.h"
 #include "substance/substance_loading.h"
-#include "text/columns.h"
+#include "text/paths.h"
 #include "thermo/vaporisation_enthalpy.h"
 #include "thermo/vapour_pressure.h"
 
@@ -14,15 +14,6 @@ namespace {
 
 constexpr const char* masterDatabase = "ORVA.Q05";
 constexpr int firstCorrelatedEquation = vpFrostKalkwarfVdW;
-
-std::string PathText(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
-
-std::filesystem::path PathOf(std::string_view text) {
-    return {std::u8string(text.begin(), text.end())};
-}
 
 void ReportLoadFailure(Session& session, const std::string& file) {
     if (session.state.databaseLoaded)

@@ -2,6 +2,7 @@
 #include "shell/session.h"
 
 #include "state/resets.h"
+#include "text/paths.h"
 
 namespace orva {
 
@@ -12,8 +13,9 @@ constexpr std::string_view lastSessionName = "OrvaLastSession.QCF";
 
 } // namespace
 
-Session::Session(const Machine& ownMachine, Dialogs& ownDialogs, ProgramRunner* ownRunner)
-    : machine(ownMachine), dialogs(ownDialogs), runner(ownRunner) {
+Session::Session(const Machine& ownMachine, Dialogs& ownDialogs, ProgramRunner* ownRunner, Settings* store)
+    : machine(ownMachine), dialogs(ownDialogs), runner(ownRunner),
+      settings(store != nullptr ? *store : ownSettings), protocol(machine, dialogs) {
     state.decimalComma = machine.DecimalComma();
     style.decimal = state.decimalComma ? ',' : '.';
     statusPanels = {"", "", "", std::string(ContactText())};
@@ -24,9 +26,9 @@ Session::Session(const Machine& ownMachine, Dialogs& ownDialogs, ProgramRunner* 
     calculation.diagramTemperature = diagramReferenceTemperature;
     curve.curveT = diagramReferenceTemperature;
     model.reference.kind = 1;
-    const std::string folder = machine.InstallationFolder().string();
+    const std::string folder = PathText(machine.InstallationFolder());
     state.dirBatch = state.dirDiagram2D = state.dirDiagram3D = state.dirXY = state.dirProject = folder;
-    state.lastSessionFile = (machine.WritableFolder() / lastSessionName).string();
+    state.lastSessionFile = PathText(machine.WritableFolder() / lastSessionName);
     Enter(SessionEvent::Start);
 }
 

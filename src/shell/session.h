@@ -3,6 +3,7 @@
 
 #include "calc/calc_batch.h"
 #include "calc/calculation_state.h"
+#include "calc/protocol.h"
 #include "shell/command_states.h"
 #include "state/batch_data.h"
 #include "state/diagram_ranges.h"
@@ -12,6 +13,7 @@
 #include "state/options.h"
 #include "state/program_runner.h"
 #include "state/session_state.h"
+#include "state/settings.h"
 #include "state/substance_model.h"
 #include "substance/database.h"
 
@@ -21,12 +23,15 @@ namespace orva {
 class Session {
 public:
     // Start-up: decimal separator, model state, name tables, defaults of the windows, folders, enabling
-    // rules. Without a runner the equations whose constants come from a helper program are not offered.
-    Session(const Machine& machine, Dialogs& dialogs, ProgramRunner* runner = nullptr);
+    // rules. Without a runner the equations whose constants come from a helper program are not offered;
+    // without a store the settings last as long as the session.
+    Session(const Machine& machine, Dialogs& dialogs, ProgramRunner* runner = nullptr,
+            Settings* settings = nullptr);
 
     const Machine& machine;
     Dialogs& dialogs;
     ProgramRunner* const runner;
+    Settings& settings;
 
     NameTables names;
     SubstanceModel model;
@@ -36,6 +41,7 @@ public:
     CurveRequest curve;
     BatchDataSet batch;
     CalculationState calculation;
+    Protocol protocol;
     Database database;
     CommandStates commands;
     NumberStyle style;
@@ -51,6 +57,9 @@ public:
 
     // The four panels of the status bar: substance, equation of state, vapour-pressure equation, contact.
     std::array<std::string, 4> statusPanels;
+
+private:
+    SessionSettings ownSettings; // in place of a store
 };
 
 // The contact line of the status bar and the text of the about box.

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <filesystem>
+#include <string>
 
 namespace orva {
 
@@ -15,6 +17,10 @@ public:
     virtual std::filesystem::path WritableFolder() const = 0;
     // True if the system writes 3/4 as "0,75".
     virtual bool DecimalComma() const = 0;
+    // The date on the user's calendar.
+    virtual std::chrono::year_month_day Today() const = 0;
+    // The same in the short form of the system, as lists and files name it.
+    virtual std::string ShortDate() const = 0;
 };
 
 } // namespace orva

@@ -44,6 +44,11 @@ DatabaseLoadResult Database::LoadDatabase(const std::filesystem::path& path,
     return {};
 }
 
+void Database::Close() {
+    if (file.is_open())
+        file.close();
+}
+
 bool Database::IsOpen() const {
     return file.is_open();
 }

@@ -25,6 +25,8 @@ public:
     DatabaseLoadResult LoadDatabase(const std::filesystem::path& path,
                                     const std::filesystem::path& installationFolder, bool englishText);
 
+    // Closes the file; the list stays.
+    void Close();
     bool IsOpen() const;
     const SubstanceList& List() const;
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "substance/synonym_file.h"
 
-#include <optional>
 #include <system_error>
 
 #include "substance/name_search.h"
 #include "text/code_page.h"
 #include "text/columns.h"
+#include "text/lines.h"
 #include "text/text_file.h"
 
 namespace orva {
@@ -14,26 +14,6 @@ namespace orva {
 namespace {
 
 constexpr int blanksInMiddle = 3;
-
-// Lines of a file that is in memory; a last line without an end counts.
-class LineReader {
-public:
-    explicit LineReader(std::string_view bytes) : rest(bytes) {}
-
-    std::optional<std::string_view> Next() {
-        if (rest.empty())
-            return std::nullopt;
-        const std::size_t end = rest.find('\n');
-        std::string_view line = rest.substr(0, end);
-        rest = end == rest.npos ? std::string_view() : rest.substr(end + 1);
-        if (line.ends_with('\r'))
-            line.remove_suffix(1);
-        return line;
-    }
-
-private:
-    std::string_view rest;
-};
 
 // Square brackets stay here, while the search key is without them: a synonym with one is never found; kept.
 std::string WithoutSigns(std::string_view line) {

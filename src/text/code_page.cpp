@@ -132,6 +132,15 @@ std::string Windows1252FromUtf8(std::string_view text) {
     return Windows1252().FromUtf8(text);
 }
 
+std::string Utf8FromTextFile(std::string_view bytes) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (!IsUtf8(bytes))
+        return Utf8FromWindows1252(bytes);
+    if (bytes.starts_with(mark))
+        bytes.remove_prefix(mark.size());
+    return std::string(bytes);
+}
+
 bool FitsWindows1252(std::string_view text) {
     return Windows1252().Fits(text);
 }

@@ -15,6 +15,10 @@ std::string Windows1252FromUtf8(std::string_view text);
 // True if every character of the text stands in Windows-1252.
 bool FitsWindows1252(std::string_view text);
 
+// The text of a file that a person may have written with any editor: UTF-8, with or without its mark, where
+// every character of it is whole, else Windows-1252.
+std::string Utf8FromTextFile(std::string_view bytes);
+
 // Code page 850, the OEM text of the synonym file.
 std::string Utf8FromOem(std::string_view bytes);
 std::string OemFromUtf8(std::string_view text);

@@ -75,4 +75,14 @@ bool IsAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const Utf8Step step = FirstCharacter(text);
+        if (!step.character)
+            return false;
+        text.remove_prefix(step.length);
+    }
+    return true;
+}
+
 } // namespace orva

@@ -24,4 +24,7 @@ void AppendUtf8(std::string& text, char32_t character);
 
 bool IsAscii(std::string_view text);
 
+// True if the text has no broken character.
+bool IsUtf8(std::string_view text);
+
 } // namespace orva

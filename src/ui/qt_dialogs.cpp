@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt_dialogs.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "ui/text.h"
@@ -46,12 +49,25 @@ private:
     bool shown = QApplication::overrideCursor() != nullptr;
 };
 
+// The texts bring their own line breaks; others in between would spoil them as long as the lines are not
+// unduly long.
+void KeepLines(QMessageBox& box) {
+    constexpr int longestLine = 90; // characters
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (label == nullptr)
+        return;
+    const QFontMetrics metrics(label->font());
+    const int width = metrics.size(0, label->text()).width();
+    label->setMinimumWidth(std::min(width + 2, metrics.averageCharWidth() * longestLine));
+}
+
 void FillBox(QMessageBox& box, const std::string& title, const std::string& text, MessageIcon icon) {
     box.setWindowTitle(ToQt(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     box.setIcon(BoxIcon(icon));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    KeepLines(box);
 }
 
 } // namespace

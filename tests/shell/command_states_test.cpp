@@ -224,6 +224,29 @@ TEST_F(Commands, ReferencePointIsOpenFromTheSubstanceOnAndOptionsFromTheModelsOn
     EXPECT_TRUE(Enabled("mnuOptions"));
 }
 
+TEST_F(Commands, TheVesselButtonFollowsThePriority) {
+    const auto row = [this](int button) {
+        for (const ToolbarRow& candidate : ToolbarTable())
+            if (candidate.index == button)
+                return ToolbarCommand(candidate, selection);
+        return -1;
+    };
+    EXPECT_EQ(row(15), FindCommand("mnuCalc", 15));
+    selection.eosPriority = false;
+    EXPECT_EQ(row(15), FindCommand("mnuCalc", 16));
+    EXPECT_EQ(row(2), FindCommand("mnuData_OpenBank"));
+    EXPECT_EQ(row(7), FindCommand("mnuData_SaveProject"));
+}
+
+TEST_F(Commands, AnEntryIsReachableThroughOpenMenusOnly) {
+    Begin();
+    EXPECT_TRUE(Enabled("mnuCalc", 2));
+    EXPECT_FALSE(states.Reachable(FindCommand("mnuCalc", 2)));
+    EXPECT_TRUE(states.Reachable(FindCommand("mnuHilfe_Tip")));
+    ReachModels();
+    EXPECT_TRUE(states.Reachable(FindCommand("mnuCalc", 2)));
+}
+
 TEST_F(Commands, KeysNameTheEntriesOfAnArray) {
     EXPECT_EQ(CommandKey("mnuStoff"), "mnuStoff");
     EXPECT_EQ(CommandKey("mnuCalc", 2), "mnuCalc(2)");

@@ -4,12 +4,10 @@
 #include <limits>
 
 #include "shell/road.h"
-#include "shell/status_texts.h"
 #include "substance/substance_loading.h"
 #include "support/sample_database.h"
 #include "support/scripted_dialogs.h"
 #include "support/test_machine.h"
-#include "thermo/eos_constants.h"
 
 namespace orva::test {
 namespace {
@@ -204,39 +202,6 @@ TEST_F(Road, TheCalculationMenuHintsAtAMissingSeriesInBatchMode) {
                                      " (exper. T-p-rho-..-Daten) bereitgestellt sind.\n\n"
                                      "Geben Sie Stapeldaten ein\n"
                                      "(per File oder Neueingabe) => Menü \"Daten/exper. Daten...\"");
-}
-
-TEST_F(Road, SaysWhatIsLoaded) {
-    EXPECT_EQ(StatusMessage(session).title, " geladen sind jetzt ... ");
-    EXPECT_EQ(StatusMessage(session).text, "... noch keine Datenbank\n"
-                                           " ... noch kein Stoff\n"
-                                           "... exper. T-p-rho-HLV-cp-Daten: keine\n"
-                                           "\n(weitere geladene Projekt-Parameter s. unter \"Optionen\")");
-    AcceptButane();
-    session.state.batchRowCount = 1;
-    EXPECT_EQ(StatusMessage(session).text, "... Datenbank ORVA.Q05\n    mit 3 Stoff(en)\n\n"
-                                           "... Stoff: C4H10, 106-97-8, n-Butan (#1)\n"
-                                           "... exper. T-p-rho-HLV-cp-Daten: 1 Datensatz verfügbar,\n"
-                                           "noch nicht gespeichert.\n"
-                                           "\n(weitere geladene Projekt-Parameter s. unter \"Optionen\")");
-}
-
-TEST_F(Road, ShowsTheConstantsOfTheEquation) {
-    EXPECT_EQ(EosParametersMessage(session).text, "Idealgasgleichung eingestellt");
-    AcceptButane();
-    session.model.selection.eos = virialPitzerCurl;
-    EXPECT_EQ(EosParametersMessage(session).text,
-              "Parameter der PITZER/CURL-Gleichung\n\nsiehe Hilfe im Fenster \"Berechnungsmodelle\"");
-    session.model.selection.eos = eosVanDerWaals;
-    ASSERT_TRUE(DetermineEosParameters(session.model, eosVanDerWaals));
-    // a = 27/64 R^2 Tc^2/pc = 1388.5585, b = R Tc/(8 pc) = 0.1163957, vc = 3/8 R Tc/pc = 0.3491873
-    EXPECT_EQ(EosParametersMessage(session).title, " Parameter der generalisierten Zustandsgleichung ");
-    EXPECT_EQ(EosParametersMessage(session).text, "Parameter CEOS van der Waals\nfür n-Butan"
-                                                  "\na0 = 1388.559\na1 = 0\nb0 = 0.1163957\nb1 = 0"
-                                                  "\nc0 = 0\nc1 = 0\nd0 = 0\nd1 = 0"
-                                                  "\nkrit. Volumen aus T(cr) und p(cr) berechnet:"
-                                                  "\n         v(cr)/m^3/kmol = 0.3491873"
-                                                  "\n(entspr. rho(cr)/kg/m^3 = 166.45)");
 }
 
 } // namespace

@@ -25,6 +25,8 @@ public:
     std::filesystem::path InstallationFolder() const override { return ORVA_INSTALLATION_FOLDER; }
     std::filesystem::path WritableFolder() const override { return ORVA_INSTALLATION_FOLDER; }
     bool DecimalComma() const override { return false; }
+    std::chrono::year_month_day Today() const override { return std::chrono::sys_days(); }
+    std::string ShortDate() const override { return "01.01.1970"; }
 };
 
 struct MasterDatabase : testing::Test {

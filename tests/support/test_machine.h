@@ -27,6 +27,10 @@ public:
     std::filesystem::path InstallationFolder() const override { return folder; }
     std::filesystem::path WritableFolder() const override { return folder; }
     bool DecimalComma() const override { return decimalComma; }
+    std::chrono::year_month_day Today() const override { return today; }
+    std::string ShortDate() const override { return "21.11.2026"; }
+
+    std::chrono::year_month_day today{std::chrono::year(2026), std::chrono::November, std::chrono::day(21)};
 
 private:
     std::filesystem::path folder;

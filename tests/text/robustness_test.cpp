@@ -30,16 +30,6 @@ double RandomDouble(Random& random) {
     return std::bit_cast<double>(random());
 }
 
-bool IsUtf8(std::string_view text) {
-    while (!text.empty()) {
-        const Utf8Step step = FirstCharacter(text);
-        if (!step.character)
-            return false;
-        text.remove_prefix(step.length);
-    }
-    return true;
-}
-
 TEST(Robustness, CodePagesTakeAnyBytes) {
     Random random(1);
     for (int i = 0; i < 20000; ++i) {

@@ -151,12 +151,11 @@ TEST_F(MainWindow, AltF4Closes) {
 }
 
 TEST_F(MainWindow, RemembersItsSize) {
-    window->resize(903, 641);
+    window->resize(790, 541);
     window->close();
     window.reset();
     Start();
-    EXPECT_EQ(window->size(), QSize(903, 641));
-    QSettings().clear();
+    EXPECT_EQ(window->size(), QSize(790, 541));
 }
 
 TEST_F(MainWindow, PicturesAreDrawnAtTheResolutionOfTheScreen) {

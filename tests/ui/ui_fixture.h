@@ -25,10 +25,12 @@ namespace orva::test {
 struct Workbench : testing::Test {
     TestMachine machine;
     ScriptedDialogs dialogs;
+    SessionSettings settings;
     std::unique_ptr<Session> session;
     std::unique_ptr<mdiORVA> window;
 
     void SetUp() override {
+        QSettings().clear();
         for (const char* file : {"ORVA.Q05", "SYNOM.TXT"})
             std::filesystem::copy_file(std::filesystem::path(ORVA_DATABASE_DIR) / file,
                                        machine.InstallationFolder() / file);
@@ -41,7 +43,7 @@ struct Workbench : testing::Test {
     }
 
     void Start() {
-        session = std::make_unique<Session>(machine, dialogs);
+        session = std::make_unique<Session>(machine, dialogs, nullptr, &settings);
         window = std::make_unique<mdiORVA>(*session);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -82,8 +84,8 @@ struct Workbench : testing::Test {
         ASSERT_NE(control, nullptr);
         ASSERT_TRUE(control->isVisible());
         // A box or an option takes clicks on its mark and text only, however wide it is.
-        const bool hasMark = qobject_cast<QCheckBox*>(control) != nullptr
-                             || qobject_cast<QRadioButton*>(control) != nullptr;
+        const bool hasMark =
+            qobject_cast<QCheckBox*>(control) != nullptr || qobject_cast<QRadioButton*>(control) != nullptr;
         const QPoint at = hasMark ? QPoint(8, control->height() / 2) : QPoint();
         QTest::mouseClick(control, Qt::LeftButton, {}, at);
     }

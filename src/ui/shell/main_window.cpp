@@ -1,18 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/shell/main_window.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
-#include <QSettings>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "shell/exit.h"
 #include "ui/place_window.h"
 #include "ui/shell/icons.h"
 #include "ui/text.h"
+#include "ui/window_places.h"
 
 namespace orva {
 
@@ -20,7 +25,7 @@ namespace {
 
 constexpr int spacerWidth = 5; // of a toolbar index without a button
 constexpr QSize startSize(1120, 760);
-const QString geometryKey = QStringLiteral("mainWindow/geometry");
+constexpr int smallestHeight = 420;
 
 struct ToolbarPicture {
     int index;
@@ -54,8 +59,11 @@ mdiORVA::mdiORVA(Session& ownSession, QWidget* parent)
     connect(menu, &CommandMenu::Opening, this, &mdiORVA::MenuOpening);
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_F4), this), &QShortcut::activated, this,
             &QWidget::close);
+    const int pageWidth =
+        startPage->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    setMinimumSize(std::max(pageWidth, menuBar()->sizeHint().width()), smallestHeight);
     resize(startSize);
-    restoreGeometry(QSettings().value(geometryKey).toByteArray());
+    new WindowPlaces(this);
     Refresh();
     startPage->FocusCurrentStep();
 }
@@ -66,11 +74,17 @@ void mdiORVA::BuildCentre() {
     auto* centre = new QWidget(this);
     hint = new FirstUserHint(centre);
     startPage = new StartPage(*menu, centre);
+    auto* scroll = new QScrollArea(centre); // for screens that are smaller than the page
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(startPage);
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(hint);
-    column->addWidget(startPage, 1);
+    column->addWidget(scroll, 1);
     setCentralWidget(centre);
 }
 
@@ -125,7 +139,7 @@ void mdiORVA::BuildStatusBar() {
 void mdiORVA::Refresh() {
     menu->Refresh(session.commands);
     for (const auto& [index, button] : toolbarButtons)
-        button->setEnabled(session.commands.ToolbarEnabled(index));
+        button->setEnabled(session.commands.ToolbarEnabled(index, session.model.selection));
     for (std::size_t i = 0; i < panels.size(); ++i) {
         const QString text = ToQt(session.statusPanels[i]).simplified();
         panels[i]->setText(text);
@@ -174,9 +188,10 @@ void mdiORVA::ListWindows() {
 }
 
 void mdiORVA::closeEvent(QCloseEvent* event) {
-    QSettings().setValue(geometryKey, saveGeometry());
-    for (QWidget* form : OpenForms())
-        form->close();
+    EndSession(session, [this] {
+        for (QWidget* form : OpenForms())
+            form->close();
+    });
     event->accept();
 }
 

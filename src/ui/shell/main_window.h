@@ -21,6 +21,7 @@ namespace orva {
 class DiagramDesk;
 class frmCalcOut;
 class frmParinput;
+class frmTip;
 
 // The main window. It owns menu, toolbar and status bar, runs the commands, and opens the other windows.
 class mdiORVA : public QMainWindow {
@@ -28,6 +29,10 @@ class mdiORVA : public QMainWindow {
 public:
     explicit mdiORVA(Session& session, QWidget* parent = nullptr);
     ~mdiORVA() override;
+
+    // What the program does once its window stands: it offers the rows of a protocol that a session before
+    // could not write, and shows the tips.
+    void StartUp();
 
     // Runs the action of a command, if it and the menus above it are enabled.
     void RunCommand(int row);
@@ -46,7 +51,6 @@ protected:
 
 private:
     using Handler = void (mdiORVA::*)(const CommandRow&);
-    bool IsReachable(int row) const;
     void RunToolbarButton(const ToolbarRow& button);
     static Handler HandlerOf(CommandAction action);
 
@@ -72,8 +76,10 @@ private:
     void CloseStaleDiagram();
     void FollowOptions(const OptionsChoice::Outcome& outcome);
     void FollowReference(bool changed);
+    void ShowTips(const CommandRow& command);
     void ShowAbout(const CommandRow& command);
 
+    void OpenTips();
     void SwitchHint();
     void AskForMethod();
     void StartCalculation(const CalculationStart& start);
@@ -92,6 +98,8 @@ private:
     DiagramDesk* diagramDesk = nullptr; // made with the first diagram
     QPointer<frmCalcOut> resultWindow;
     QPointer<frmParinput> inputWindow;
+    QPointer<frmTip> tipWindow;
+    bool showTipsExplicitly = false;
 };
 
 } // namespace orva

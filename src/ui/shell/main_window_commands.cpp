@@ -10,6 +10,7 @@
 #include "ui/shell/diagram_desk.h"
 #include "ui/shell/main_window.h"
 #include "ui/shell/options_window.h"
+#include "ui/shell/tip_window.h"
 #include "ui/substance/model_window.h"
 #include "ui/substance/substance_window.h"
 
@@ -45,6 +46,8 @@ mdiORVA::Handler mdiORVA::HandlerOf(CommandAction action) {
         return &mdiORVA::ShowOptions;
     case CommandAction::ShowReference:
         return &mdiORVA::ShowReference;
+    case CommandAction::ShowTips:
+        return &mdiORVA::ShowTips;
     case CommandAction::About:
         return &mdiORVA::ShowAbout;
     case CommandAction::None:
@@ -53,27 +56,17 @@ mdiORVA::Handler mdiORVA::HandlerOf(CommandAction action) {
     return nullptr;
 }
 
-bool mdiORVA::IsReachable(int row) const {
-    for (int at = row; at >= 0;) {
-        if (!session.commands.Enabled(at))
-            return false;
-        const CommandRow& command = CommandTable()[static_cast<std::size_t>(at)];
-        at = command.parent.empty() ? -1 : FindCommand(command.parent, command.parentIndex);
-    }
-    return true;
-}
-
 void mdiORVA::RunCommand(int row) {
     const CommandRow& command = CommandTable()[static_cast<std::size_t>(row)];
     const Handler handler = HandlerOf(command.action);
-    if (handler == nullptr || !IsReachable(row))
+    if (handler == nullptr || !session.commands.Reachable(row))
         return;
     (this->*handler)(command);
     Refresh();
 }
 
 void mdiORVA::RunToolbarButton(const ToolbarRow& button) {
-    if (const int row = FindCommand(button.command); row >= 0) {
+    if (const int row = ToolbarCommand(button, session.model.selection); row >= 0) {
         RunCommand(row);
         return;
     }
@@ -87,11 +80,12 @@ void mdiORVA::RunToolbarButton(const ToolbarRow& button) {
 void mdiORVA::MenuOpening(int row) {
     const CommandRow& opened = CommandTable()[static_cast<std::size_t>(row)];
     const std::string key = CommandKey(opened.name, opened.index);
-    if (key == "mnuData")
+    if (key == "mnuData") {
+        CloseForms({"frmTip"});
         session.Enter(SessionEvent::DataMenuOpened);
-    else if (key == "mnuCalcMain") {
-        CloseForms({"frmCalcOut", "frmParinput", "frmKessel"});
+    } else if (key == "mnuCalcMain") {
         OpenCalculationMenu(session);
+        CloseForms({"frmCalcOut", "frmParinput", "frmKessel"});
     } else if (key == "mnuCalc(20)")
         session.Enter(SessionEvent::DatabaseFunctionsOpened);
     else if (key == "mnuCalc_sub_database(0)")
@@ -129,6 +123,25 @@ void mdiORVA::ShowEosParameters(const CommandRow&) {
 
 void mdiORVA::Exit(const CommandRow&) {
     close();
+}
+
+void mdiORVA::StartUp() {
+    session.protocol.OfferRecovery();
+    OpenTips();
+}
+
+void mdiORVA::OpenTips() {
+    Tips tips(session.machine, session.settings, session.state.englishText, showTipsExplicitly);
+    if (tips.hideTip())
+        return;
+    if (tipWindow == nullptr || !tipWindow->isVisible()) // one that was closed goes away soon
+        tipWindow = new frmTip(std::move(tips), this);
+    ShowForm(tipWindow, Qt::NonModal);
+}
+
+void mdiORVA::ShowTips(const CommandRow&) {
+    showTipsExplicitly = true;
+    OpenTips();
 }
 
 void mdiORVA::ShowAbout(const CommandRow&) {

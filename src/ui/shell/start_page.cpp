@@ -18,7 +18,7 @@ namespace orva {
 namespace {
 
 constexpr int pageWidth = 760;
-constexpr int pageMargin = 32;
+constexpr int pageMargin = 20;
 constexpr int discSize = 34;
 constexpr int iconSize = 56;
 
@@ -38,6 +38,7 @@ QWidget* Heading(QWidget* parent) {
     auto* purpose = MutedLabel(QStringLiteral("Zustände und Prozesse reiner Stoffe: Zustandsgleichungen, "
                                               "Phasengleichgewicht, Diagramme"),
                                heading);
+    purpose->setWordWrap(true);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     texts->addWidget(name);
@@ -155,6 +156,7 @@ void StartPage::AddStep(int number, const QString& title, std::initializer_list<
     row->setAutoFillBackground(true);
     Step step{new StepDisc(number, row), new QLabel(title, row), MutedLabel(QString(), row), {}};
     step.title->setFont(Scaled(font(), 1.15, true));
+    step.title->setWordWrap(true);
     step.text->setWordWrap(true);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(3);
