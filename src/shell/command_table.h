@@ -20,7 +20,8 @@ enum class CommandAction : std::uint8_t {
     ChooseModels,
     Calculate, // argument: calculation kind
     Draw,      // argument: diagram type
-    About
+    About,
+    Help
 };
 
 enum class CommandKind : std::uint8_t { Menu, Command, Separator };

@@ -17,6 +17,7 @@
 namespace orva {
 
 class DiagramDesk;
+class HelpDesk;
 class frmCalcOut;
 class frmParinput;
 
@@ -66,6 +67,7 @@ private:
     void DrawDiagram(const CommandRow& command);
     void CloseStaleDiagram();
     void ShowAbout(const CommandRow& command);
+    void ShowHelp(const CommandRow& command);
 
     void SwitchHint();
     void AskForPoint();
@@ -77,6 +79,7 @@ private:
     FirstUserHint* hint = nullptr;
     std::vector<std::pair<int, QAction*>> toolbarButtons; // button index, action
     std::array<QLabel*, 4> panels{};
+    HelpDesk* helpDesk;
     DiagramDesk* diagramDesk = nullptr; // made with the first diagram
     QPointer<frmCalcOut> resultWindow;
     QPointer<frmParinput> inputWindow;

@@ -6,6 +6,7 @@
 #include "ui/calc/result_window_view.h"
 #include "ui/place_window.h"
 #include "ui/shell/diagram_desk.h"
+#include "ui/shell/help_desk.h"
 #include "ui/shell/main_window.h"
 #include "ui/substance/model_window.h"
 #include "ui/substance/substance_window.h"
@@ -32,6 +33,8 @@ mdiORVA::Handler mdiORVA::HandlerOf(CommandAction action) {
         return &mdiORVA::DrawDiagram;
     case CommandAction::About:
         return &mdiORVA::ShowAbout;
+    case CommandAction::Help:
+        return &mdiORVA::ShowHelp;
     case CommandAction::None:
         break;
     }
@@ -106,6 +109,10 @@ void mdiORVA::Exit(const CommandRow&) {
 
 void mdiORVA::ShowAbout(const CommandRow&) {
     session.dialogs.Show(AboutMessage());
+}
+
+void mdiORVA::ShowHelp(const CommandRow&) {
+    helpDesk->Open(HelpIndexTopic());
 }
 
 void mdiORVA::DrawDiagram(const CommandRow& command) {
