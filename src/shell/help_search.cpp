@@ -10,8 +10,8 @@ namespace orva {
 namespace {
 
 constexpr std::size_t mostHits = 50;
-constexpr std::size_t snippetBefore = 50; // characters in front of the first word
-constexpr std::size_t snippetLength = 160;
+constexpr std::size_t snippetBefore = 40; // characters in front of the first word
+constexpr std::size_t snippetLength = 120;
 
 // A text for comparison, and where its characters come from.
 struct FoldedText {
@@ -110,7 +110,7 @@ std::vector<TextRange> FindFolded(const FoldedText& folded, const std::vector<st
     std::ranges::sort(ranges, {}, &TextRange::begin);
     std::vector<TextRange> apart;
     for (const TextRange& range : ranges)
-        if (apart.empty() || range.begin >= apart.back().end)
+        if (apart.empty() || range.begin > apart.back().end)
             apart.push_back(range);
         else
             apart.back().end = std::max(apart.back().end, range.end);

@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "substance/substance_choice.h"
 #include "ui/shell/main_window.h"
 #include "ui/substance/substance_list_view.h"
 #include "ui/substance/virial_input_window.h"

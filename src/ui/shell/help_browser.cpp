@@ -18,6 +18,7 @@ constexpr int smallestZoom = -5;
 constexpr int largestZoom = 15;
 constexpr double zoomStep = 0.1;
 constexpr int pageMargin = 18;
+constexpr int smallestPicture = 200; // a narrower page shows pictures whole
 
 // Positions of a document count in units of UTF-16.
 int UnitsOf(const std::u32string& text, std::size_t begin, std::size_t end) {
@@ -27,6 +28,11 @@ int UnitsOf(const std::u32string& text, std::size_t begin, std::size_t end) {
     return units;
 }
 
+HelpLanguage LanguageOf(const QUrl& url) {
+    const bool english = QFileInfo(url.path()).dir().dirName() == ToQt(HelpFolderOf(HelpLanguage::English));
+    return english ? HelpLanguage::English : HelpLanguage::German;
+}
+
 } // namespace
 
 HelpBrowser::HelpBrowser(const HelpLibrary& pages, QWidget* parent)
@@ -34,7 +40,10 @@ HelpBrowser::HelpBrowser(const HelpLibrary& pages, QWidget* parent)
     setObjectName(QStringLiteral("helpPage"));
     document()->setDocumentMargin(pageMargin);
     setUndoRedoEnabled(false);
-    connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::MarkWords);
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& source) {
+        place = source;
+        MarkWords();
+    });
 }
 
 void HelpBrowser::ShowPage(HelpLanguage language, std::string_view page, std::string_view anchor) {
@@ -44,23 +53,36 @@ void HelpBrowser::ShowPage(HelpLanguage language, std::string_view page, std::st
 }
 
 std::string HelpBrowser::PageName() const {
-    return FromQt(QFileInfo(source().path()).fileName());
+    return FromQt(QFileInfo(place.path()).fileName());
+}
+
+HelpLanguage HelpBrowser::Language() const {
+    return LanguageOf(place);
 }
 
 std::string HelpBrowser::Anchor() const {
-    return FromQt(source().fragment());
+    return FromQt(place.fragment());
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
-    const QUrl url = source().resolved(name);
+    const QUrl url = readPage.resolved(name);
     if (type == QTextDocument::StyleSheetResource)
         return ToQt(library.StyleSheet(IsDark(palette())));
+    if (type == QTextDocument::ImageResource)
+        return FittingPicture(url.toLocalFile());
     if (type != QTextDocument::HtmlResource)
         return QTextBrowser::loadResource(type, url);
-    const QFileInfo file(url.path());
-    const bool english = file.dir().dirName() == ToQt(HelpFolderOf(HelpLanguage::English));
-    return ToQt(
-        library.Page(english ? HelpLanguage::English : HelpLanguage::German, FromQt(file.fileName())));
+    readPage = url;
+    return ToQt(library.Page(LanguageOf(url), FromQt(QFileInfo(url.path()).fileName())));
+}
+
+// No wider than the page, so that nobody has to scroll sideways.
+QVariant HelpBrowser::FittingPicture(const QString& file) const {
+    const QImage picture(file);
+    const int room = viewport()->width() - 2 * pageMargin;
+    if (picture.isNull() || picture.width() <= room || room < smallestPicture)
+        return picture;
+    return picture.scaledToWidth(room, Qt::SmoothTransformation);
 }
 
 void HelpBrowser::Mark(const QString& query) {

@@ -17,6 +17,7 @@ public:
     void ShowPage(HelpLanguage language, std::string_view page, std::string_view anchor);
     std::string PageName() const;
     std::string Anchor() const;
+    HelpLanguage Language() const;
 
     // Marks the words from now on, also on the pages to come. An empty query marks nothing.
     void Mark(const QString& query);
@@ -38,7 +39,11 @@ signals:
 
 private:
     void MarkWords();
+    QVariant FittingPicture(const QString& file) const;
 
+    // QTextBrowser learns its source only after it has told of it, so the browser keeps its own.
+    QUrl readPage; // last page read, the base of its resources
+    QUrl place;    // page and anchor shown
     const HelpLibrary& library;
     QString marked;
     int zoom = 0;

@@ -7,10 +7,10 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include "ui/place_window.h"
+#include "ui/shell/help_hit_delegate.h"
 #include "ui/shell/icons.h"
 #include "ui/text.h"
 
@@ -18,11 +18,12 @@ namespace orva {
 
 namespace {
 
-constexpr QSize startSize(1080, 740);
+constexpr QSize startSize(1240, 780);
 constexpr int contentsWidth = 300;
 constexpr int topicRole = Qt::UserRole;
 constexpr int pageRole = Qt::UserRole;
 constexpr int anchorRole = Qt::UserRole + 1;
+constexpr double arrowScale = 1.3; // of the signs on the buttons
 const QString geometryKey = QStringLiteral("helpWindow/geometry");
 const QString splitterKey = QStringLiteral("helpWindow/splitter");
 const QString languageKey = QStringLiteral("helpWindow/language");
@@ -79,22 +80,19 @@ QToolButton* HelpWindow::AddButton(QLayout& row, const char* name, const QString
     button->setObjectName(QLatin1String(name));
     button->setText(text);
     button->setAutoRaise(true);
+    QFont sign = button->font();
+    sign.setPointSizeF(sign.pointSizeF() * arrowScale);
+    button->setFont(sign);
     button->setFocusPolicy(Qt::TabFocus);
     row.addWidget(button);
     return button;
 }
 
-QToolButton* HelpWindow::AddButton(QLayout& row, const char* name, QStyle::StandardPixmap picture) {
-    QToolButton* button = AddButton(row, name, QString());
-    button->setIcon(style()->standardIcon(picture));
-    return button;
-}
-
 QLayout* HelpWindow::ButtonRow() {
     auto* row = new QHBoxLayout;
-    back = AddButton(*row, "helpBack", QStyle::SP_ArrowBack);
-    forward = AddButton(*row, "helpForward", QStyle::SP_ArrowForward);
-    home = AddButton(*row, "helpHome", QStyle::SP_DirHomeIcon);
+    back = AddButton(*row, "helpBack", QStringLiteral("←"));
+    forward = AddButton(*row, "helpForward", QStringLiteral("→"));
+    home = AddButton(*row, "helpHome", QStringLiteral("⌂"));
     row->addStretch(1);
     smaller = AddButton(*row, "helpSmaller", QStringLiteral("A−"));
     zoomShown = new QLabel(this);
@@ -129,7 +127,7 @@ QWidget* HelpWindow::LeftSide() {
     contents->setObjectName(QStringLiteral("helpContents"));
     contents->setHeaderHidden(true);
     results->setObjectName(QStringLiteral("helpResults"));
-    results->setWordWrap(true);
+    results->setItemDelegate(new HelpHitDelegate(results));
     results->setAlternatingRowColors(true);
     results->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     left->addWidget(contents);
@@ -246,8 +244,9 @@ void HelpWindow::Search(const QString& query) {
     const QSignalBlocker quiet(results);
     results->clear();
     for (const HelpHit& hit : library.Search(language, FromQt(query))) {
-        const QString place = ToQt(hit.title + (hit.heading.empty() ? "" : " › " + hit.heading));
-        auto* item = new QListWidgetItem(place + QStringLiteral("\n") + ToQt(hit.snippet), results);
+        const std::string place = hit.title + (hit.heading.empty() ? "" : " › " + hit.heading);
+        auto* item = new QListWidgetItem(ToQt(place), results);
+        item->setData(HelpHitDelegate::snippetRole, ToQt(hit.snippet));
         item->setData(pageRole, ToQt(hit.page));
         item->setData(anchorRole, ToQt(hit.anchor));
     }
@@ -261,12 +260,10 @@ void HelpWindow::Search(const QString& query) {
 
 // The contents show where the page stands, whatever way led to it.
 void HelpWindow::FollowPage() {
-    const bool english = browser->source().path().contains(
-        QStringLiteral("/%1/").arg(ToQt(HelpFolderOf(HelpLanguage::English))));
-    const HelpLanguage shown = english ? HelpLanguage::English : HelpLanguage::German;
+    const HelpLanguage shown = browser->Language();
     if (shown != language) { // back to a page from before a change of the language
         language = shown;
-        languages->setCurrentIndex(english ? 1 : 0);
+        languages->setCurrentIndex(language == HelpLanguage::German ? 0 : 1);
         ShowTexts();
         FillContents();
     }

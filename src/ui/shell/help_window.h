@@ -33,7 +33,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QToolButton* AddButton(QLayout& row, const char* name, QStyle::StandardPixmap picture);
     QToolButton* AddButton(QLayout& row, const char* name, const QString& text);
     QLayout* ButtonRow();
     QWidget* LeftSide();
