@@ -170,7 +170,7 @@ void HelpIndex::Add(std::string_view name, const HelpPage& page) {
 // 0 where a word is missing, or where the title alone holds the words and the section is not the page's
 // first.
 double HelpIndex::Score(const Section& section, const std::vector<std::u32string>& words) {
-    constexpr double inTitle = 10000, inHeading = 1000, mostOccurrences = 99;
+    constexpr double inTitle = 10000, beginsTitle = 5000, inHeading = 1000, mostOccurrences = 99;
     double occurrences = 0;
     bool inSection = section.first;
     for (const std::u32string& word : words) {
@@ -185,7 +185,7 @@ double HelpIndex::Score(const Section& section, const std::vector<std::u32string
         return 0;
     double score = 1 + std::min(occurrences, mostOccurrences);
     if (section.first && HoldsAll(section.foldedTitle, words))
-        score += inTitle;
+        score += inTitle + (section.foldedTitle.starts_with(words.front()) ? beginsTitle : 0);
     if (HoldsAll(section.foldedHeading, words))
         score += inHeading;
     return score;

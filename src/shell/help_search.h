@@ -37,7 +37,8 @@ public:
     void Add(std::string_view name, const HelpPage& page);
 
     // The sections that hold every word of the query, in the text, in their heading or in the title of their
-    // page: hits in titles first, then in headings, then by number of occurrences; at most 50. Nothing for a
+    // page: hits in titles first, above all those that begin with the
+    // query, then in headings, then by number of occurrences; at most 50. Nothing for a
     // query without a word.
     std::vector<HelpHit> Search(std::string_view query) const;
 

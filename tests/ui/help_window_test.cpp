@@ -387,6 +387,16 @@ TEST_F(Help, ShowsItsPictures) {
     }
 }
 
+TEST_F(Help, PicturesFitThePage) {
+    HelpWindow* help = OpenIndex();
+    ASSERT_NE(help, nullptr);
+    for (const int width : {760, 1300, 900}) {
+        help->resize(width, 600);
+        QTest::qWait(20);
+        EXPECT_EQ(Browser(help)->horizontalScrollBar()->maximum(), 0) << width;
+    }
+}
+
 TEST_F(Help, IsListedAmongTheWindowsAndClosesWithTheProgram) {
     HelpWindow* help = OpenIndex();
     ASSERT_NE(help, nullptr);

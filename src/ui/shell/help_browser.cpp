@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QImage>
 #include <QWheelEvent>
 
 #include "ui/text.h"
@@ -68,11 +69,15 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     const QUrl url = readPage.resolved(name);
     if (type == QTextDocument::StyleSheetResource)
         return ToQt(library.StyleSheet(IsDark(palette())));
-    if (type == QTextDocument::ImageResource)
+    if (type == QTextDocument::ImageResource) {
+        if (!pictures.contains(name))
+            pictures << name;
         return FittingPicture(url.toLocalFile());
+    }
     if (type != QTextDocument::HtmlResource)
         return QTextBrowser::loadResource(type, url);
     readPage = url;
+    pictures.clear();
     return ToQt(library.Page(LanguageOf(url), FromQt(QFileInfo(url.path()).fileName())));
 }
 
@@ -137,6 +142,15 @@ void HelpBrowser::wheelEvent(QWheelEvent* event) {
     if (event->angleDelta().y() != 0)
         SetZoom(zoom + (event->angleDelta().y() > 0 ? 1 : -1));
     event->accept();
+}
+
+void HelpBrowser::resizeEvent(QResizeEvent* event) {
+    QTextBrowser::resizeEvent(event);
+    for (const QUrl& name : pictures)
+        document()->addResource(QTextDocument::ImageResource, name,
+                                FittingPicture(readPage.resolved(name).toLocalFile()));
+    if (!pictures.isEmpty())
+        document()->markContentsDirty(0, document()->characterCount());
 }
 
 // The colours of a page come from the stylesheet that it was read with.

@@ -33,6 +33,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 signals:
     void Zoomed();
@@ -42,8 +43,9 @@ private:
     QVariant FittingPicture(const QString& file) const;
 
     // QTextBrowser learns its source only after it has told of it, so the browser keeps its own.
-    QUrl readPage; // last page read, the base of its resources
-    QUrl place;    // page and anchor shown
+    QUrl readPage;        // last page read, the base of its resources
+    QList<QUrl> pictures; // of the page, as the document names them
+    QUrl place;           // page and anchor shown
     const HelpLibrary& library;
     QString marked;
     int zoom = 0;

@@ -130,6 +130,8 @@ QWidget* HelpWindow::LeftSide() {
     results->setItemDelegate(new HelpHitDelegate(results));
     results->setAlternatingRowColors(true);
     results->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    results->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the height of a hit follows the width
+    results->setResizeMode(QListView::Adjust);
     left->addWidget(contents);
     left->addWidget(results);
     auto* column = new QVBoxLayout(side);
