@@ -35,7 +35,7 @@ constexpr Folding foldings[] = {
     {U"¹", U'1'},
     {U"²", U'2'},
     {U"³", U'3'},
-    {U"-–—−/\u00A0\t\r\n", U' '},
+    {U"-–—−/\u00A0\u2003\t\r\n", U' '},
 };
 
 char32_t Plain(char32_t c) {

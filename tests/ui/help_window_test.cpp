@@ -180,6 +180,26 @@ TEST_F(Help, KnowsEveryHelpButtonOfEveryWindow) {
     EXPECT_GE(count, 6);
 }
 
+// Names of help buttons end in "Hilfe", "Help" or "HELP", wherever a window is built.
+TEST(HelpButtons, OfAllWindowsHaveTheirTopics) {
+    const QRegularExpression name(QStringLiteral("\"(\\w*(?:Hilfe|Help|HELP))\""));
+    QDirIterator sources(QStringLiteral(ORVA_UI_SOURCE_DIR), {QStringLiteral("*.cpp")}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    QSet<QString> names;
+    while (sources.hasNext()) {
+        QFile file(sources.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        for (auto match = name.globalMatch(text); match.hasNext();)
+            names << match.next().captured(1);
+    }
+    EXPECT_GE(names.size(), 7);
+    names.remove(QStringLiteral("Hilfe")); // of frmStoffWahl, and the tip of all help buttons
+    EXPECT_NE(HelpTopicOf("frmStoffWahl", "Hilfe"), nullptr);
+    for (const QString& found : names)
+        EXPECT_NE(HelpTopicOf("", FromQt(found)), nullptr) << FromQt(found);
+}
+
 TEST_F(Help, StaysUsableBesideAModalWindow) {
     frmQModell* models = ChooseSubstance("n-Butan");
     ASSERT_NE(models, nullptr);
