@@ -72,26 +72,9 @@ FoldedText Fold(std::u32string_view text) {
     return folded;
 }
 
-std::u32string Decode(std::string_view text) {
-    std::u32string characters;
-    while (!text.empty()) {
-        const Utf8Step step = FirstCharacter(text);
-        characters += step.character.value_or(U'\uFFFD');
-        text.remove_prefix(step.length);
-    }
-    return characters;
-}
-
-std::string Encode(std::u32string_view characters) {
-    std::string text;
-    for (const char32_t c : characters)
-        AppendUtf8(text, c);
-    return text;
-}
-
 std::vector<std::u32string> WordsOf(std::string_view query) {
     std::vector<std::u32string> words;
-    const std::u32string folded = Fold(Decode(query)).text;
+    const std::u32string folded = Fold(CodePoints(query)).text;
     for (std::size_t at = 0; at < folded.size();) {
         const std::size_t end = std::min(folded.find(U' ', at), folded.size());
         if (end > at)
@@ -127,7 +110,7 @@ std::string SnippetOf(const std::u32string& text, const std::vector<TextRange>& 
         end = std::max(text.rfind(U' ', end), begin + 1);
     while (begin < end && text[begin] == U' ')
         ++begin;
-    std::string snippet = Encode(std::u32string_view(text).substr(begin, end - begin));
+    std::string snippet = Utf8(std::u32string_view(text).substr(begin, end - begin));
     if (begin > 0)
         snippet = "… " + snippet;
     return end < text.size() ? snippet + " …" : snippet;
@@ -158,9 +141,9 @@ void HelpIndex::Add(std::string_view name, const HelpPage& page) {
         entry.place = {
             std::string(name), section.anchor, page.title, section.anchor.empty() ? "" : section.heading, {}};
         entry.first = first;
-        entry.text = Decode(section.text);
-        entry.foldedTitle = Fold(Decode(page.title)).text;
-        entry.foldedHeading = Fold(Decode(section.heading)).text;
+        entry.text = CodePoints(section.text);
+        entry.foldedTitle = Fold(CodePoints(page.title)).text;
+        entry.foldedHeading = Fold(CodePoints(section.heading)).text;
         entry.foldedText = Fold(entry.text).text;
         sections.push_back(std::move(entry));
         first = false;
