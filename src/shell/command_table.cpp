@@ -174,7 +174,7 @@ constexpr CommandRow commandTable[] = {
     {"mnuWindow", noIndex, "", noIndex, "Fenster...", Menu},
     {"mnuHilfe", noIndex, "", noIndex, "&Hilfe...", Menu},
     {"mnuHilfe_About", noIndex, "mnuHilfe", noIndex, "Über das Programm", Command, About},
-    {"mnuHilfe_Index", noIndex, "mnuHilfe", noIndex, "Hilfeindex"},
+    {"mnuHilfe_Index", noIndex, "mnuHilfe", noIndex, "Hilfeindex", Command, Help},
     {"mnuHilfe_Tip", noIndex, "mnuHilfe", noIndex, "Zeige Tipps", Command, ShowTips},
     {"mnuHilfe_AboutText", noIndex, "mnuHilfe", noIndex, "ORVA-6, Lizenz und Kontakt", Command, About},
 };

@@ -25,7 +25,8 @@ enum class CommandAction : std::uint8_t {
     ShowOptions,
     ShowReference,
     ShowTips,
-    About
+    About,
+    Help
 };
 
 enum class CommandKind : std::uint8_t { Menu, Command, Separator };

@@ -25,24 +25,6 @@ constexpr SpellingRule groupRules[] = {
     {U"SAEURE", U"SÄURE"},
 };
 
-// Positions count characters below, so the rules work on code points.
-std::u32string CodePoints(std::string_view text) {
-    std::u32string points;
-    while (!text.empty()) {
-        const Utf8Step step = FirstCharacter(text);
-        points += step.character.value_or(U'\uFFFD');
-        text.remove_prefix(step.length);
-    }
-    return points;
-}
-
-std::string Utf8(std::u32string_view points) {
-    std::string text;
-    for (const char32_t point : points)
-        AppendUtf8(text, point);
-    return text;
-}
-
 // Capitals of the letters of Windows-1252; "ß" has none there and stays.
 char32_t Capital(char32_t letter) {
     if ((letter >= U'a' && letter <= U'z') || (letter >= 0xE0 && letter <= 0xFE && letter != 0xF7))

@@ -71,6 +71,23 @@ void AppendUtf8(std::string& text, char32_t character) {
     }
 }
 
+std::u32string CodePoints(std::string_view text) {
+    std::u32string points;
+    while (!text.empty()) {
+        const Utf8Step step = FirstCharacter(text);
+        points += step.character.value_or(U'\uFFFD');
+        text.remove_prefix(step.length);
+    }
+    return points;
+}
+
+std::string Utf8(std::u32string_view characters) {
+    std::string text;
+    for (const char32_t character : characters)
+        AppendUtf8(text, character);
+    return text;
+}
+
 bool IsAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }

@@ -22,6 +22,12 @@ Utf8Step FirstCharacter(std::string_view text);
 // Appends the character; a value that is no character becomes U+FFFD.
 void AppendUtf8(std::string& text, char32_t character);
 
+// The characters of a text; a broken one becomes U+FFFD.
+std::u32string CodePoints(std::string_view text);
+
+// The text of characters.
+std::string Utf8(std::u32string_view characters);
+
 bool IsAscii(std::string_view text);
 
 // True if the text has no broken character.

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QFontDatabase>
 
+#include "shell/help_topics.h"
+#include "ui/help_request.h"
 #include "ui/text.h"
 
 namespace orva {
@@ -102,8 +104,10 @@ QToolButton* HelpButton(const QString& name, QWidget* parent) {
     button->setObjectName(name);
     button->setToolTip(QStringLiteral("Hilfe"));
     button->setAccessibleName(QStringLiteral("Hilfe"));
-    button->setEnabled(false);
+    button->setEnabled(HelpTopicOf("", FromQt(name)) != nullptr);
     button->setFocusPolicy(Qt::TabFocus);
+    QObject::connect(button, &QToolButton::clicked, button,
+                     [button] { RequestHelp(*button, button->objectName()); });
     return button;
 }
 

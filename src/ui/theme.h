@@ -29,7 +29,7 @@ void ShowResultLabel(QLabel& label, const ResultLabel& content);
 // A label of secondary rank that follows a change of the colours.
 QLabel* MutedLabel(const QString& text, QWidget* parent);
 
-// A help button of a window, disabled as long as there is no topic to open.
+// A help button of a window. It is disabled if the help has no topic under its name.
 QToolButton* HelpButton(const QString& name, QWidget* parent);
 
 } // namespace orva

@@ -67,6 +67,13 @@ TEST(Utf8, EndsAtTheEnd) {
     EXPECT_EQ(step.length, 0u);
 }
 
+TEST(Utf8, BecomesCharactersAndTextAgain) {
+    EXPECT_EQ(CodePoints("aÄ\xF0\x9D\x91\x9D"), U"aÄ\U0001D45D");
+    EXPECT_EQ(Utf8(U"aÄ\U0001D45D"), "aÄ\xF0\x9D\x91\x9D");
+    EXPECT_EQ(CodePoints("a\xC3"), U"a\uFFFD");
+    EXPECT_EQ(CodePoints(""), U"");
+}
+
 TEST(Utf8, KnowsPlainAscii) {
     EXPECT_TRUE(IsAscii(""));
     EXPECT_TRUE(IsAscii("\x7F\r\n abc"));

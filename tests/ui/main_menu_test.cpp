@@ -40,7 +40,8 @@ struct MainMenu : Workbench {
 };
 
 const QStringList always{"mnuData", "mnuData_OpenBank", "mnuData_Status", "mnuData_Exit"};
-const QStringList help{"mnuWindow", "mnuHilfe", "mnuHilfe_About", "mnuHilfe_Tip", "mnuHilfe_AboutText"};
+const QStringList help{"mnuWindow",      "mnuHilfe",     "mnuHilfe_About",
+                       "mnuHilfe_Index", "mnuHilfe_Tip", "mnuHilfe_AboutText"};
 
 TEST_F(MainMenu, HoldsEveryCommandInItsPlaceWithItsText) {
     std::ifstream file(std::string(ORVA_TEST_DATA_DIR) + "/menu_tree.txt");

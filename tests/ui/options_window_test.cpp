@@ -195,9 +195,10 @@ TEST_F(OptionsForm, NoTwoControlsShareALetter) {
 
 TEST_F(OptionsForm, TabWalksThroughTheControlsInTheirOrder) {
     Open();
-    EXPECT_EQ(WalkByTab(), (QStringList{"OptCalcMode(0)", "optMolarSpez(0)", "chkReduziert",
-                                        "Slider1_punktdichte", "Command1", "chkCurveTpRestricted",
-                                        "chkSKurveOhneKonnode", "chkPartialKurve", "cmdOK", "cmdClose"}));
+    EXPECT_EQ(WalkByTab(),
+              (QStringList{"OptCalcMode(0)", "optMolarSpez(0)", "chkReduziert", "Slider1_punktdichte",
+                           "Command1", "cmdReferenzHelp", "chkCurveTpRestricted", "chkSKurveOhneKonnode",
+                           "chkPartialKurve", "cmdRealBreichHelp", "cmdOK", "cmdClose"}));
 }
 
 TEST_F(OptionsForm, ControlsFollowTheSubstanceAndItsEquation) {

@@ -183,8 +183,8 @@ TEST_F(ReferenceForm, NoTwoControlsShareALetter) {
 
 TEST_F(ReferenceForm, TabWalksFromTheOptionsThroughTheFields) {
     Open();
-    EXPECT_EQ(WalkByTab(),
-              (QStringList{"opt_HNull(0)", "T(0)", "T(1)", "T(4)", "T(5)", "T(2)", "T(3)", "OK", "Esc"}));
+    EXPECT_EQ(WalkByTab(), (QStringList{"opt_HNull(0)", "cmdRefHelp", "T(0)", "T(1)", "T(4)", "T(5)", "T(2)",
+                                        "T(3)", "OK", "Esc"}));
 }
 
 TEST_F(ReferenceForm, AnIsothermInPAndVStays) {

@@ -15,6 +15,7 @@
 
 #include "shell/exit.h"
 #include "ui/place_window.h"
+#include "ui/shell/help_desk.h"
 #include "ui/shell/icons.h"
 #include "ui/text.h"
 #include "ui/window_places.h"
@@ -47,7 +48,8 @@ QIcon ToolbarIcon(int index) {
 } // namespace
 
 mdiORVA::mdiORVA(Session& ownSession, QWidget* parent)
-    : QMainWindow(parent), session(ownSession), menu(new CommandMenu(menuBar())) {
+    : QMainWindow(parent), session(ownSession), menu(new CommandMenu(menuBar())),
+      helpDesk(new HelpDesk(session.machine.InstallationFolder() / "help", this)) {
     setObjectName(QStringLiteral("mdiORVA"));
     setWindowTitle(QStringLiteral("ORVA-6   Zustands- und Prozessberechnungen für reine Stoffe"));
     setWindowIcon(ProgramIcon());
@@ -154,6 +156,8 @@ QList<QWidget*> mdiORVA::OpenForms() const {
         if (form->isWindow() && form->isVisible() && (form->windowFlags() & Qt::WindowType_Mask) != Qt::Popup
             && (form->windowFlags() & Qt::WindowType_Mask) != Qt::ToolTip)
             forms << form;
+    if (HelpWindow* help = helpDesk->Window(); help != nullptr && help->isVisible())
+        forms << help;
     return forms;
 }
 

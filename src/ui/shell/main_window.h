@@ -19,6 +19,7 @@
 namespace orva {
 
 class DiagramDesk;
+class HelpDesk;
 class frmCalcOut;
 class frmParinput;
 class frmTip;
@@ -78,6 +79,7 @@ private:
     void FollowReference(bool changed);
     void ShowTips(const CommandRow& command);
     void ShowAbout(const CommandRow& command);
+    void ShowHelp(const CommandRow& command);
 
     void OpenTips();
     void SwitchHint();
@@ -95,6 +97,7 @@ private:
     FirstUserHint* hint = nullptr;
     std::vector<std::pair<int, QAction*>> toolbarButtons; // button index, action
     std::array<QLabel*, 4> panels{};
+    HelpDesk* helpDesk;
     DiagramDesk* diagramDesk = nullptr; // made with the first diagram
     QPointer<frmCalcOut> resultWindow;
     QPointer<frmParinput> inputWindow;

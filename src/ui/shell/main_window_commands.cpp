@@ -8,6 +8,7 @@
 #include "ui/calc/result_window_view.h"
 #include "ui/place_window.h"
 #include "ui/shell/diagram_desk.h"
+#include "ui/shell/help_desk.h"
 #include "ui/shell/main_window.h"
 #include "ui/shell/options_window.h"
 #include "ui/shell/tip_window.h"
@@ -50,6 +51,8 @@ mdiORVA::Handler mdiORVA::HandlerOf(CommandAction action) {
         return &mdiORVA::ShowTips;
     case CommandAction::About:
         return &mdiORVA::ShowAbout;
+    case CommandAction::Help:
+        return &mdiORVA::ShowHelp;
     case CommandAction::None:
         break;
     }
@@ -146,6 +149,10 @@ void mdiORVA::ShowTips(const CommandRow&) {
 
 void mdiORVA::ShowAbout(const CommandRow&) {
     session.dialogs.Show(AboutMessage());
+}
+
+void mdiORVA::ShowHelp(const CommandRow&) {
+    helpDesk->Open(HelpIndexTopic());
 }
 
 void mdiORVA::DrawDiagram(const CommandRow& command) {

@@ -9,6 +9,7 @@
 
 #include "shell/road.h"
 #include "text/columns.h"
+#include "ui/help_request.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -104,13 +105,14 @@ QPushButton* frmStoffWahl::AddButton(const char* name, const QString& text) {
     return button;
 }
 
-// The two windows behind `cmdDaten` and `Hilfe` are not there yet.
+// The window behind `cmdDaten` is not there yet.
 QLayout* frmStoffWahl::ButtonRow() {
     QPushButton* dataButton = AddButton("cmdDaten", QStringLiteral("&Stoffdaten zeigen"));
     dataButton->setToolTip(QStringLiteral("...hier aber nicht editierbar "));
     dataButton->setEnabled(false);
     QPushButton* help = AddButton("Hilfe", QStringLiteral("&Hilfe"));
-    help->setEnabled(false);
+    help->setAutoDefault(false);
+    connect(help, &QPushButton::clicked, this, [this] { RequestHelp(*this, QStringLiteral("Hilfe")); });
     StoffOK = AddButton("StoffOK", ToQt(SubstanceChoice::acceptText));
     StoffOK->setDefault(true);
     QPushButton* cancel = AddButton("Esc", QStringLiteral("&Abbrechen"));

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/help_topics.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace orva {
+
+namespace {
+
+using enum HelpChapter;
+
+// clang-format off
+constexpr HelpTopic topics[] = {
+    {100, Start, "index.html", "", "Willkommen", "Welcome", "mnuHilfe mnuHilfe_Index"},
+    {110, Start, "first-steps.html", "", "Erste Schritte", "First steps", "Picture1 cmdErstnutzer"},
+    {111, Start, "first-steps.html", "database", "Eine Datenbank öffnen", "Open a database", ""},
+    {112, Start, "first-steps.html", "substance", "Einen Stoff wählen", "Choose a substance", ""},
+    {113, Start, "first-steps.html", "models", "Die Modelle bestätigen", "Confirm the models", ""},
+    {114, Start, "first-steps.html", "first-result", "Das erste Ergebnis", "The first result", ""},
+    {115, Start, "first-steps.html", "first-diagram", "Das erste Diagramm", "The first diagram", ""},
+    {120, Start, "main-window.html", "", "Das Hauptfenster", "The main window", "mdiORVA frmPhantom"},
+    {121, Start, "main-window.html", "menu", "Menü", "Menu", "mnuData mnuWindow"},
+    {122, Start, "main-window.html", "toolbar", "Symbolleiste", "Toolbar", "toolbar"},
+    {123, Start, "main-window.html", "status", "Statuszeile und Ladezustand", "Status bar and what is loaded", "mnuData_Status statusPanel"},
+    {124, Start, "main-window.html", "tips", "Tipps", "Tips", "frmTip mnuHilfe_Tip"},
+    {125, Start, "main-window.html", "about", "Über das Programm", "About the program", "mnuHilfe_About mnuHilfe_AboutText"},
+    {126, Start, "main-window.html", "exit", "Beenden", "Leaving the program", "mnuData_Exit"},
+    {130, Start, "help-window.html", "", "Die Hilfe benutzen", "Using the help", "helpWindow"},
+    {131, Start, "help-window.html", "search", "Suchen", "Searching", "helpSearch helpResults"},
+    {140, Start, "not-yet.html", "", "Was noch nicht enthalten ist", "What is not there yet", "cmdIsoHelp frmIsoCalc mnu3D mnu3DSub mnuFitting mnuJOBACK"},
+
+    {200, Substances, "substance-window.html", "", "Stoffwahl", "Choosing a substance", "frmStoffWahl frmStoffWahl.Hilfe mnuStoff"},
+    {201, Substances, "substance-window.html", "list", "Die Stoffliste", "The list of substances", "StoffListe"},
+    {202, Substances, "substance-window.html", "name", "Name, Synonym oder CAS-Nummer", "Name, synonym or CAS number", "NameCombo"},
+    {203, Substances, "substance-window.html", "number", "Laufende Nummer", "Serial number", "Text1"},
+    {204, Substances, "substance-window.html", "spelling", "Schreibregeln der Suche", "Spelling rules of the search", ""},
+    {205, Substances, "substance-window.html", "accept", "Den Stoff übernehmen", "Taking the substance", "StoffOK cmdDaten"},
+    {210, Substances, "model-window.html", "", "Berechnungsmodelle", "Calculation models", "frmQModell mnuModel"},
+    {211, Substances, "model-window.html", "eos", "Zustandsgleichung wählen", "Choosing the equation of state", "EOSHilfe EOSKombi"},
+    {212, Substances, "model-window.html", "vapour-pressure", "Dampfdruckgleichung wählen", "Choosing the vapour-pressure equation", "pHilfe pKombi"},
+    {213, Substances, "model-window.html", "priority", "Priorität beim Phasengleichgewicht", "Priority in phase equilibrium", "PriorHilfe PriorOpt fraPrior"},
+    {214, Substances, "model-window.html", "vaporisation", "Modell der Verdampfungsenthalpie wählen", "Choosing the enthalpy of vaporisation", "HLVHilfe HLVKombi WatsonKombi"},
+    {215, Substances, "model-window.html", "heat-capacity", "Wärmekapazität wählen", "Choosing the heat capacity", "cpHilfe cpKombi"},
+    {216, Substances, "model-window.html", "liquid-density", "Flüssigkeitsdichte", "Liquid density", "RhoLHilfe"},
+    {217, Substances, "model-window.html", "accept", "Annehmen oder abbrechen", "Accepting or cancelling", "OKModell cmdEsc"},
+    {220, Substances, "virial-input.html", "", "Virialkoeffizient von Hand", "Virial coefficient by hand", "frmBParInput"},
+    {230, Substances, "database.html", "", "Datenbank und Datenquellen", "Database and sources of data", "mnuData_OpenBank"},
+    {231, Substances, "database.html", "content", "Was ein Stoff enthält", "What a substance holds", ""},
+    {232, Substances, "database.html", "quality", "Herkunft und Güte", "Origin and quality", ""},
+    {233, Substances, "database.html", "missing", "Fehlende Daten", "Missing data", ""},
+
+    {300, Equations, "eos-overview.html", "", "Zustandsgleichungen im Vergleich", "Equations of state compared", ""},
+    {310, Equations, "eos-cubic.html", "", "Die kubische Zustandsgleichung", "The cubic equation of state", ""},
+    {311, Equations, "eos-cubic.html", "roots", "Lösungen für das Volumen", "Solutions for the volume", ""},
+    {312, Equations, "eos-cubic.html", "parameters", "Parameter und kritisches Volumen", "Parameters and critical volume", "mnuData_ParameterEOS"},
+    {320, Equations, "eos-van-der-waals.html", "", "van der Waals und Berthelot", "van der Waals and Berthelot", ""},
+    {330, Equations, "eos-redlich-kwong.html", "", "Redlich/Kwong", "Redlich/Kwong", ""},
+    {340, Equations, "eos-soave.html", "", "Soave/Redlich/Kwong", "Soave/Redlich/Kwong", ""},
+    {350, Equations, "eos-peng-robinson.html", "", "Peng/Robinson", "Peng/Robinson", ""},
+    {360, Equations, "eos-vo-halme.html", "", "Vo/Halme I und II", "Vo/Halme I and II", ""},
+    {370, Equations, "eos-virial.html", "", "Virialgleichungen", "Virial equations", ""},
+    {371, Equations, "eos-virial.html", "pitzer-curl", "Pitzer/Curl", "Pitzer/Curl", ""},
+    {380, Equations, "eos-ideal-gas.html", "", "Ideales Gas", "Ideal gas", ""},
+
+    {400, Correlations, "vapour-pressure.html", "", "Dampfdruckgleichungen", "Vapour-pressure equations", ""},
+    {401, Correlations, "vapour-pressure.html", "wagner", "Wagner", "Wagner", ""},
+    {402, Correlations, "vapour-pressure.html", "frost-kalkwarf", "Frost/Kalkwarf", "Frost/Kalkwarf", ""},
+    {403, Correlations, "vapour-pressure.html", "antoine", "Antoine", "Antoine", ""},
+    {404, Correlations, "vapour-pressure.html", "correlated", "Korrelierte Gleichungen", "Correlated equations", ""},
+    {405, Correlations, "vapour-pressure.html", "range", "Gültigkeitsbereich und Warnung", "Range of validity and warning", ""},
+    {410, Correlations, "vaporisation.html", "", "Verdampfungsenthalpie", "Enthalpy of vaporisation", "mnuCalc(8) mnuCalc(9)"},
+    {420, Correlations, "heat-capacity.html", "", "Wärmekapazitäten", "Heat capacity", ""},
+    {430, Correlations, "density.html", "", "Dichte von Flüssigkeit und Feststoff", "Density of liquid and solid", ""},
+    {440, Correlations, "accuracy.html", "", "Was man erwarten darf", "What to expect", ""},
+
+    {500, Equilibrium, "equilibrium.html", "", "Phasengleichgewicht", "Phase equilibrium", "mnuCalc(5) mnuCalc(6)"},
+    {501, Equilibrium, "equilibrium.html", "areas", "Gleiche Flächen", "Equal areas", ""},
+    {502, Equilibrium, "equilibrium.html", "phase", "Welche Phase liegt vor?", "Which phase is it?", ""},
+    {510, Equilibrium, "priority.html", "", "Priorität: EOS oder Dampfdruckgleichung", "Priority: EOS or vapour-pressure equation", ""},
+    {520, Equilibrium, "global-partial.html", "", "Global- und Partialmethode", "Global and partial method", "frmCalcIn GlobHilfe opt_glob"},
+    {530, Equilibrium, "benson.html", "", "Benson-Methode und Bezugspunkt", "Benson method and reference point", "BENSON_HELP optPartialBenson"},
+    {531, Equilibrium, "benson.html", "reference-point", "Der zweite Bezugspunkt", "The second reference point", "Ref_opt RefInput"},
+
+    {600, Caloric, "caloric.html", "", "Kalorische Funktionen", "Caloric functions", "mnuCalc(11)"},
+    {601, Caloric, "caloric.html", "residual", "Residualfunktionen", "Residual functions", ""},
+    {602, Caloric, "caloric.html", "derivatives", "Ableitungen und Koeffizienten", "Derivatives and coefficients", ""},
+    {610, Caloric, "reference.html", "", "Normierung von h und s", "Normalisation of h and s", "frmReferenz cmdRefHelp cmdReferenzHelp Command1 toolbar(11)"},
+    {611, Caloric, "reference.html", "kinds", "Arten der Normierung", "Kinds of normalisation", "opt_HNull"},
+    {612, Caloric, "reference.html", "environment", "Umgebungszustand", "Ambient state", ""},
+    {620, Caloric, "exergy.html", "", "Exergie", "Exergy", ""},
+
+    {700, Calculations, "options.html", "", "Optionen und Einheiten", "Options and units", "frmOptions mnuOptions"},
+    {701, Calculations, "options.html", "units", "Molare, spezifische, reduzierte Größen", "Molar, specific, reduced quantities", "optMolarSpez chkReduziert"},
+    {702, Calculations, "options.html", "real-range", "Physikalisch realer Bereich", "Physically real range", "cmdRealBreichHelp chkCurveTpRestricted"},
+    {703, Calculations, "options.html", "diagram", "Weitere Diagramm-Optionen", "Other options of diagrams", "chkSKurveOhneKonnode chkPartialKurve Slider1_punktdichte"},
+    {710, Calculations, "point-input.html", "", "Eingabe eines Punktes", "Input of a point", "frmParinput mnuCalcMain mnuCalc mnuCalc(2)"},
+    {720, Calculations, "result-window.html", "", "Das Ergebnisfenster", "The result window", "frmCalcOut"},
+    {721, Calculations, "result-window.html", "labels", "Kopfzeilen", "Head lines", "par1 par2 co1 co2 fraBatchVorgabe"},
+    {722, Calculations, "result-window.html", "report", "Der Bericht Zeile für Zeile", "The report line by line", "Liste"},
+    {723, Calculations, "result-window.html", "status", "Statuszeile", "Status line", "statusZeile"},
+
+    {800, Diagrams, "diagrams.html", "", "2D-Diagramme", "2D diagrams", "mnu2D mnuGraf mnuGraf_sub_cut"},
+    {801, Diagrams, "diagrams.html", "isotherm", "Isotherme p - v", "Isotherm p - v", "mnuGraf_sub_cut(1)"},
+    {810, Diagrams, "diagram-window.html", "", "Das Diagrammfenster", "The diagram window", "frmGraph2D"},
+    {811, Diagrams, "diagram-window.html", "mouse", "Maus und Lupe", "Mouse and magnifier", "chart"},
+    {812, Diagrams, "diagram-window.html", "coordinates", "Koordinatenfenster", "Coordinate window", "frmCoord"},
+    {813, Diagrams, "diagram-window.html", "output", "Speichern, Kopieren, Drucken", "Saving, copying, printing", ""},
+    {814, Diagrams, "diagram-window.html", "keys", "Tasten", "Keys", ""},
+    {820, Diagrams, "value-input.html", "", "Werteingabe für Kurven", "Input of a value for a curve", "frmTpVSInputBox"},
+    {830, Diagrams, "diagram-marks.html", "", "Konnode, S-Kurve und Marken", "Tie line, S-curve and marks", ""},
+
+    {900, Automation, "command-line.html", "", "Die Kommandozeile", "The command line", ""},
+    {901, Automation, "command-line.html", "points", "Punkte", "Points", ""},
+    {902, Automation, "command-line.html", "curves", "Kurven und Bilder", "Curves and images", ""},
+    {903, Automation, "command-line.html", "run", "Viele Anfragen", "Many requests", ""},
+    {910, Automation, "files.html", "", "Dateien und Formate", "Files and formats", "fileDialog"},
+
+    {950, Reference, "messages.html", "", "Meldungen und was zu tun ist", "Messages and what to do", "messageBox questionBox inputDialog"},
+    {960, Reference, "glossary.html", "", "Begriffe", "Terms", ""},
+    {970, Reference, "symbols.html", "", "Formelzeichen und Einheiten", "Symbols and units", ""},
+    {980, Reference, "literature.html", "", "Literatur", "Literature", ""},
+};
+// clang-format on
+
+struct ChapterTitles {
+    std::string_view german, english;
+};
+
+constexpr std::array<ChapterTitles, 10> chapterTitles = {{
+    {"Einstieg", "Getting started"},
+    {"Stoff und Modelle", "Substance and models"},
+    {"Zustandsgleichungen", "Equations of state"},
+    {"Stoffgleichungen", "Correlations"},
+    {"Phasengleichgewicht", "Phase equilibrium"},
+    {"Kalorische Größen", "Caloric quantities"},
+    {"Berechnungen", "Calculations"},
+    {"Diagramme", "Diagrams"},
+    {"Skripte und Dateien", "Scripts and files"},
+    {"Nachschlagen", "Reference"},
+}};
+
+bool IsNamed(std::string_view names, std::string_view name) {
+    while (!names.empty()) {
+        const std::size_t end = std::min(names.find(' '), names.size());
+        if (names.substr(0, end) == name)
+            return true;
+        names.remove_prefix(std::min(end + 1, names.size()));
+    }
+    return false;
+}
+
+const HelpTopic* TopicOpenedBy(std::string_view name) {
+    const auto row =
+        std::ranges::find_if(topics, [name](const HelpTopic& topic) { return IsNamed(topic.openers, name); });
+    return name.empty() || row == std::end(topics) ? nullptr : &*row;
+}
+
+} // namespace
+
+std::span<const HelpTopic> HelpTopics() {
+    return topics;
+}
+
+const HelpTopic& HelpIndexTopic() {
+    return topics[0];
+}
+
+const HelpTopic* FindHelpTopic(int number) {
+    const auto row = std::ranges::find(topics, number, &HelpTopic::number);
+    return row == std::end(topics) ? nullptr : &*row;
+}
+
+const HelpTopic* FindHelpTopic(std::string_view page, std::string_view anchor) {
+    const HelpTopic* found = nullptr;
+    for (const HelpTopic& topic : topics) {
+        if (topic.page != page)
+            continue;
+        if (topic.anchor == anchor)
+            return &topic;
+        if (topic.anchor.empty())
+            found = &topic;
+    }
+    return found;
+}
+
+const HelpTopic* HelpTopicOf(std::string_view window, std::string_view control) {
+    if (control.empty())
+        return TopicOpenedBy(window);
+    const std::string_view array = control.substr(0, control.find('('));
+    for (const std::string_view name : {control, array}) {
+        if (const HelpTopic* topic = TopicOpenedBy(std::string(window).append(".").append(name)))
+            return topic;
+        if (const HelpTopic* topic = TopicOpenedBy(name))
+            return topic;
+    }
+    return nullptr;
+}
+
+std::string_view TitleOf(const HelpTopic& topic, HelpLanguage language) {
+    return language == HelpLanguage::German ? topic.titleGerman : topic.titleEnglish;
+}
+
+std::string_view TitleOf(HelpChapter chapter, HelpLanguage language) {
+    const ChapterTitles& titles = chapterTitles.at(static_cast<std::size_t>(chapter));
+    return language == HelpLanguage::German ? titles.german : titles.english;
+}
+
+std::string_view HelpFolderOf(HelpLanguage language) {
+    return language == HelpLanguage::German ? "de" : "en";
+}
+
+} // namespace orva
