@@ -33,7 +33,7 @@ private:
 // Functions of one phase without its exergies. False when a residual function cannot be formed.
 bool FillPhase(SubstanceModel& model, double T, double p, double v, const IdealGasState& ideal,
                CaloricValues& values, ResidualState& residual) {
-    residual = ResidualFunctions(model, T, p, v, ideal.cp);
+    ResidualFunctions(model, T, p, v, ideal.cp, residual);
     if (residual.failed)
         return false;
     const ResidualTable& r = residual.table;
