@@ -226,6 +226,7 @@ template<class Search> SaturationResult RunSearch(SubstanceModel& model, const S
                 return Failure(result);
             if (next == Pass::Converged) {
                 result.value = s.value;
+                result.rootsOfValue = true;
                 return result.failed ? Failure(result) : result;
             }
         }
