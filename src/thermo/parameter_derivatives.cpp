@@ -71,10 +71,12 @@ VirialSlopes HandSlopes(const EosParameters& eos, double T, double B) {
 
 } // namespace
 
-void slopes::VoHalme(const SubstanceModel& model, double T, ParameterSlopes& s) {
+ParameterSlopes slopes::VoHalme(const SubstanceModel& model, double T) {
+    ParameterSlopes s;
     VoHalmeAttraction(model, T, s);
     if (model.selection.eos == eosVoHalme2)
         VoHalmeVolumes(model, T, s);
+    return s;
 }
 
 VirialSlopes VirialDerivatives(SubstanceModel& model, double T) {

@@ -51,7 +51,7 @@ inline void Soave(const EosParameters& eos, double Tc, double T, ParameterSlopes
 }
 
 // A of both Vo / Halme rows; B, C, D of the second one.
-void VoHalme(const SubstanceModel& model, double T, ParameterSlopes& s);
+ParameterSlopes VoHalme(const SubstanceModel& model, double T);
 
 } // namespace slopes
 
@@ -60,7 +60,7 @@ inline ParameterSlopes ParameterDerivatives(const SubstanceModel& model, double 
     const std::int16_t row = model.selection.eos;
     ParameterSlopes s;
     if (row == eosVoHalme1 || row == eosVoHalme2) {
-        slopes::VoHalme(model, T, s);
+        s = slopes::VoHalme(model, T);
     } else {
         if (eos.AlphaForm == 2)
             slopes::Soave(eos, model.substance.Tc, T, s);
