@@ -30,13 +30,9 @@ private:
     EosWorkingSet work;
 };
 
-// Functions of one phase without its exergies. False when a residual function cannot be formed.
-bool FillPhase(SubstanceModel& model, double T, double p, double v, const IdealGasState& ideal,
-               CaloricValues& values, ResidualState& residual) {
-    residual = ResidualFunctions(model, T, p, v, ideal.cp);
-    if (residual.failed)
-        return false;
-    const ResidualTable& r = residual.table;
+// Functions of one phase from its residual functions, without its exergies.
+void FillPhase(double T, double p, double v, const IdealGasState& ideal, const ResidualTable& r,
+               CaloricValues& values) {
     values.h = ideal.h + gasConstant * r.h;
     values.u = values.h - p * v;
     values.s = ideal.s + gasConstant * r.s;
@@ -46,7 +42,6 @@ bool FillPhase(SubstanceModel& model, double T, double p, double v, const IdealG
     values.cv = r.cv;
     values.cpIdeal = ideal.cp;
     values.soundSpeed = r.soundSpeed;
-    return true;
 }
 
 void AddExergies(const ReferencePoint& reference, double v, const AmbientPhase& ambient,
@@ -56,13 +51,37 @@ void AddExergies(const ReferencePoint& reference, double v, const AmbientPhase& 
     values.exergyU = (values.u - ambient.u) - lost + reference.penv * (v - ambient.v);
 }
 
+// False when a residual function cannot be formed.
 bool FillAmbientPhase(SubstanceModel& model, double v, const IdealGasState& ideal, AmbientPhase& phase) {
     CaloricValues values;
     ResidualState residual;
+    const double T = model.reference.Tenv;
     const double p = model.reference.penv;
-    if (!FillPhase(model, model.reference.Tenv, p, v, ideal, values, residual))
+    ResidualFunctions(model, T, p, v, ideal.cp, residual);
+    if (residual.failed)
         return false;
+    FillPhase(T, p, v, ideal, residual.table, values);
     phase = {values.h, values.h - p * v, values.s, v};
+    return true;
+}
+
+// Volumes of both phases; the critical volume of the equation at T(cr). False without two volumes.
+bool FillVolumes(SubstanceModel& model, double T, const SaturationResult& saturation,
+                 SaturationCaloricResult& result) {
+    if (T == model.substance.Tc && model.eos.rhoCritCalc > 0) {
+        result.vL = result.vV = model.substance.molarMass / model.eos.rhoCritCalc;
+        return true;
+    }
+    PhaseVolumes phases;
+    if (saturation.rootsOfValue)
+        EosPhaseVolumes(model, T, saturation.value,
+                        {saturation.areaRatio, saturation.area1, saturation.area2, false}, phases);
+    else
+        EosPhaseVolumes(model, T, saturation.value, phases);
+    if (phases.failed || !(phases.vL > 0 && phases.vV > 0))
+        return false;
+    result.vL = phases.vL;
+    result.vV = phases.vV;
     return true;
 }
 
@@ -96,12 +115,14 @@ CaloricResult CaloricState(SubstanceModel& model, double T, double p, double v, 
     CaloricResult result;
     const IdealGasState ideal =
         IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p);
-    result.failed =
-        ideal.failed || ambient.failed || !FillPhase(model, T, p, v, ideal, result.values, result.residual);
-    if (result.failed) {
-        result.values = {};
+    result.failed = ideal.failed || ambient.failed;
+    if (result.failed)
         return result;
-    }
+    ResidualFunctions(model, T, p, v, ideal.cp, result.residual);
+    result.failed = result.residual.failed;
+    if (result.failed)
+        return result;
+    FillPhase(T, p, v, ideal, result.residual.table, result.values);
     AddExergies(model.reference, v, ambient.Single(), result.values);
     return result;
 }
@@ -119,25 +140,23 @@ SaturationCaloricResult SaturationCaloric(SubstanceModel& model, double T, const
         return result;
     const double p = saturation.value;
     result.p = p;
-    if (T == model.substance.Tc && model.eos.rhoCritCalc > 0) {
-        result.vL = result.vV = model.substance.molarMass / model.eos.rhoCritCalc;
-    } else {
-        PhaseVolumes phases;
-        EosPhaseVolumes(model, T, p, phases);
-        if (phases.failed || !(phases.vL > 0 && phases.vV > 0))
-            return result;
-        result.vL = phases.vL;
-        result.vV = phases.vV;
-    }
+    if (!FillVolumes(model, T, saturation, result))
+        return result;
     const IdealGasState ideal =
         IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p);
-    ResidualState residual;
-    if (ideal.failed || !FillPhase(model, T, p, result.vL, ideal, result.liquid, residual)
-        || !FillPhase(model, T, p, result.vV, ideal, result.vapour, residual))
+    if (ideal.failed)
         return result;
+    ResidualState residual;
+    ResidualFunctions(model, T, p, result.vL, ideal.cp, residual);
+    if (residual.failed)
+        return result;
+    FillPhase(T, p, result.vL, ideal, residual.table, result.liquid);
+    ResidualFunctions(model, T, p, result.vV, ideal.cp, residual);
+    if (residual.failed)
+        return result;
+    FillPhase(T, p, result.vV, ideal, residual.table, result.vapour);
     AddExergies(model.reference, result.vL, ambient.liquid, result.liquid);
     AddExergies(model.reference, result.vV, ambient.vapour, result.vapour);
-    SetEosCoefficients(model, T);
     result.failed = false;
     return result;
 }

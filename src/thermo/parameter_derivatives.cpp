@@ -1,35 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "thermo/parameter_derivatives.h"
 
-#include <cmath>
-
-#include "state/constants.h"
 #include "thermo/cubic_equation.h"
 #include "thermo/virial_equation.h"
 
 namespace orva {
 
 namespace {
-
-// X = x0 T^n; most parameters have n = 0.
-void PowerSlopes(double X, double n, double T, double& dX, double& d2X) {
-    if (n == 0) {
-        dX = d2X = 0;
-        return;
-    }
-    dX = n * X / T;
-    d2X = (n - 1) * dX / T;
-}
-
-void SoaveSlopes(const SubstanceModel& model, double T, ParameterSlopes& s) {
-    const double Tc = model.substance.Tc;
-    const double m = model.eos.nA;
-    const double c = 1 + m * (1 - std::sqrt(T / Tc));
-    const double e = -0.5 * m * std::sqrt(1 / (Tc * T));
-    const double eSlope = -0.5 * e / T;
-    s.dA = 2 * model.eos.a0 * c * e;
-    s.d2A = 2 * model.eos.a0 * (e * e + c * eSlope);
-}
 
 // The temperature function of the Vo / Halme rows, in theta = Tr^0.75.
 void VoHalmeAttraction(const SubstanceModel& model, double T, ParameterSlopes& s) {
@@ -94,27 +71,11 @@ VirialSlopes HandSlopes(const EosParameters& eos, double T, double B) {
 
 } // namespace
 
-ParameterSlopes ParameterDerivatives(const SubstanceModel& model, double T) {
-    const EosParameters& eos = model.eos;
-    const std::int16_t row = model.selection.eos;
+ParameterSlopes slopes::VoHalme(const SubstanceModel& model, double T) {
     ParameterSlopes s;
-    if (row == eosVoHalme1 || row == eosVoHalme2) {
-        VoHalmeAttraction(model, T, s);
-        if (row == eosVoHalme2)
-            VoHalmeVolumes(model, T, s);
-    } else {
-        if (eos.AlphaForm == 2)
-            SoaveSlopes(model, T, s);
-        else
-            PowerSlopes(eos.A, eos.nA, T, s.dA, s.d2A);
-        PowerSlopes(eos.B, eos.nB, T, s.dB, s.d2B);
-        PowerSlopes(eos.C, eos.nC, T, s.dC, s.d2C);
-        PowerSlopes(eos.D, eos.nD, T, s.dD, s.d2D);
-    }
-    const double q = gasConstant * T;
-    const double lag = T * s.dA - eos.A;
-    s.da = lag / q / T;
-    s.d2a = ((T * T * s.d2A - 2 * lag) / q / T) / T;
+    VoHalmeAttraction(model, T, s);
+    if (model.selection.eos == eosVoHalme2)
+        VoHalmeVolumes(model, T, s);
     return s;
 }
 

@@ -47,25 +47,26 @@ void VirialVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& stat
     }
 }
 
-// Phase by the areas of the loop. Above T(cr) a small ratio still gives vapour; a clearly negative one
-// liquid.
-void DecideThreeRoots(SubstanceModel& model, double T, double p, PhaseVolumes& state) {
+// False for roots that are no volumes or too far apart to be told.
+bool AcceptThreeRoots(const SubstanceModel& model, PhaseVolumes& state) {
     const auto& roots = model.work.Roots;
     const double B = model.eos.B;
-    state.verdict = VolumeVerdict::ThreeRoots;
     const bool accepted = roots[0] > B && (roots[2] - B) / (roots[1] - B) >= smallestRootRatio
                           && (roots[1] - B) / (roots[0] - B) >= smallestRootRatio;
-    if (!accepted) {
-        state.verdict = VolumeVerdict::NoSolution;
-        state.failed = true;
-        return;
-    }
+    state.verdict = accepted ? VolumeVerdict::ThreeRoots : VolumeVerdict::NoSolution;
+    state.failed = !accepted;
+    return accepted;
+}
+
+// Phase by the areas of the loop. Above T(cr) a small ratio still gives vapour; a clearly negative one
+// liquid.
+void DecideThreeRoots(const SubstanceModel& model, double T, const AreaRatio& areas, PhaseVolumes& state) {
+    const auto& roots = model.work.Roots;
     const double M = model.substance.molarMass;
     state.vV = roots[2];
     state.rhoV = M / state.vV;
     state.vL = roots[0];
     state.rhoL = M / state.vL;
-    const AreaRatio areas = MaxwellAreaRatio(model, T, p);
     state.areaRatio = areas.ratio;
     state.area1 = areas.area1;
     state.area2 = areas.area2;
@@ -121,13 +122,17 @@ void DecideOneRoot(SubstanceModel& model, double T, double p, PhaseVolumes& stat
     }
 }
 
-} // namespace
-
-void EosPhaseVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& state) {
+void ClearVerdict(PhaseVolumes& state) {
     state.failed = false;
     state.verdict = VolumeVerdict::None;
     state.supercritical = state.critical = false;
     state.rootCount = 0;
+}
+
+} // namespace
+
+void EosPhaseVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& state) {
+    ClearVerdict(state);
     if (model.selection.nonCubic) {
         VirialVolumes(model, T, p, state);
         return;
@@ -141,10 +146,18 @@ void EosPhaseVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& st
         state.failed = true;
         return;
     }
-    if (cubic.rootCount > 1)
-        DecideThreeRoots(model, T, p, state);
-    else if (cubic.rootCount == 1)
+    if (cubic.rootCount == 1)
         DecideOneRoot(model, T, p, state);
+    else if (cubic.rootCount > 1 && AcceptThreeRoots(model, state))
+        DecideThreeRoots(model, T, MaxwellAreaRatio(model, T, p), state);
+}
+
+void EosPhaseVolumes(SubstanceModel& model, double T, double p, const AreaRatio& areas, PhaseVolumes& state) {
+    ClearVerdict(state);
+    model.work.RegionCode = RegionOf(model.substance, T, p);
+    state.rootCount = 3;
+    if (AcceptThreeRoots(model, state))
+        DecideThreeRoots(model, T, areas, state);
 }
 
 std::string_view StatusText(const PhaseVolumes& state) {

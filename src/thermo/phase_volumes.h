@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "state/substance_model.h"
+#include "thermo/cubic_equation.h"
 
 namespace orva {
 
@@ -26,6 +27,10 @@ struct PhaseVolumes {
 
 // Solves the equation of state for v at T, p and decides the phase by equal areas.
 void EosPhaseVolumes(SubstanceModel& model, double T, double p, PhaseVolumes& state);
+
+// The same where a search for the saturation has left the three roots of T, p in work.Roots, with their
+// areas.
+void EosPhaseVolumes(SubstanceModel& model, double T, double p, const AreaRatio& areas, PhaseVolumes& state);
 
 // The verdict in German, "" for none.
 std::string_view StatusText(const PhaseVolumes& state);

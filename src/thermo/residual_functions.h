@@ -35,6 +35,10 @@ struct ResidualState {
 // K). The shared parameters stand at T afterwards. Fails on any arithmetic fault and at the co-volume.
 ResidualState ResidualFunctions(SubstanceModel& model, double T, double p, double v, double idealCp);
 
+// The same into a state that the caller holds; every value of it is written.
+void ResidualFunctions(SubstanceModel& model, double T, double p, double v, double idealCp,
+                       ResidualState& state);
+
 // The same with the heat capacity of the model in force.
 ResidualState ResidualFunctions(SubstanceModel& model, double T, double p, double v);
 

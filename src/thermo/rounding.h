@@ -14,12 +14,9 @@ inline int RoundedKelvins(double distance) {
 
 // Distance of T from a range of validity, 0 inside; the upper limit overrides.
 inline int RangeDeviation(double T, int Tlo, int Thi) {
-    double distance = 0;
-    if (T < Tlo)
-        distance = T - Tlo;
     if (T > Thi)
-        distance = T - Thi;
-    return RoundedKelvins(distance);
+        return RoundedKelvins(T - Thi);
+    return T < Tlo ? RoundedKelvins(T - Tlo) : 0;
 }
 
 // The same where both limits are given, else 0.

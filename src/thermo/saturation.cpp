@@ -2,6 +2,7 @@
 #include "thermo/saturation.h"
 
 #include <cmath>
+#include <limits>
 
 #include "thermo/cubic_equation.h"
 #include "thermo/saturation_bracket.h"
@@ -33,6 +34,8 @@ constexpr int scanPasses = 60;
 constexpr double scanRatioTolerance = 2e-4;
 constexpr double scanSmallestStep = 5e-4; // K
 
+constexpr double roundingShare = 1e-3; // of the product of the smaller roots, beyond which they are lost
+
 constexpr double stepReduction = 0.1;
 constexpr double smallestIterate = 1e-10;
 
@@ -54,6 +57,14 @@ SaturationResult CriticalShortcut(SubstanceModel& model, double value) {
     SaturationResult result;
     result.value = value;
     return result;
+}
+
+// Deflation forms the product of the smaller roots as a difference of numbers of the size of the largest root
+// squared. Below about 1e-3 kPa their rounding hides the volume of the liquid, and areas that look equal can
+// belong to twice the pressure.
+bool LiquidIsLost(const std::array<double, 3>& roots) {
+    constexpr double rounding = std::numeric_limits<double>::epsilon() / 2;
+    return roots[2] * roots[2] * rounding > roundingShare * roots[0] * roots[1];
 }
 
 void TakeAreas(SaturationResult& search, const AreaRatio& areas) {
@@ -226,7 +237,8 @@ template<class Search> SaturationResult RunSearch(SubstanceModel& model, const S
                 return Failure(result);
             if (next == Pass::Converged) {
                 result.value = s.value;
-                return result.failed ? Failure(result) : result;
+                result.rootsOfValue = true;
+                return result.failed || LiquidIsLost(model.work.Roots) ? Failure(result) : result;
             }
         }
         s.Advance();
@@ -280,7 +292,7 @@ SaturationResult ScanTemperature(SubstanceModel& model, double p) {
             continue;
         q *= -stepReduction;
         if (std::abs(areas.ratio) < scanRatioTolerance || std::abs(q) < scanSmallestStep) {
-            if (T < 1e-6 || !std::isfinite(T) || areas.failed)
+            if (T < 1e-6 || !std::isfinite(T) || areas.failed || LiquidIsLost(model.work.Roots))
                 return Failure(result);
             result.value = T;
             return result;

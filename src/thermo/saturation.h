@@ -12,6 +12,7 @@ struct SaturationResult {
     double value = 0; // p(LV) in kPa or T(LV) in K, 0 when failed
     double areaRatio = 0, area1 = 0, area2 = 0;
     bool failed = false;
+    bool rootsOfValue = false; // work.Roots are those of the cubic at `value` itself, the areas theirs
 };
 
 // p(LV) at T. On success work.Roots and the parameters stand at the solution: Roots[0] is the liquid,

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <new>
 
+#include "thermo/caloric_state.h"
 #include "thermo/cubic_equation.h"
 #include "thermo/eos_temperature.h"
 #include "thermo/fluids.h"
@@ -66,6 +67,10 @@ TEST(ThePropertyModels, AllocateNothing) {
         EXPECT_EQ(AllocationsOf([&] { EosSaturationTemperature(model, 900); }), 0u) << row;
         EXPECT_EQ(AllocationsOf([&] { EosSaturationTemperature(model, 20); }), 0u) << row;
         EXPECT_EQ(AllocationsOf([&] { EosTemperature(model, 900, 100, false); }), 0u) << row;
+        AmbientState ambient;
+        EXPECT_EQ(AllocationsOf([&] { ambient = EvaluateAmbientState(model); }), 0u) << row;
+        EXPECT_EQ(AllocationsOf([&] { CaloricState(model, 350, 900, 3, ambient); }), 0u) << row;
+        EXPECT_EQ(AllocationsOf([&] { SaturationCaloric(model, 350, ambient); }), 0u) << row;
     }
 }
 
