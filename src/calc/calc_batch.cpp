@@ -60,6 +60,7 @@ void PrepareRun(CalculationContext& context) {
     state.rootIndex = 0;
     state.zV = state.zL = 0;
     state.pEos = 0;
+    SetUnits(context.model, context.options);
     context.options.energyFactor = EnergyFactor(
         context.options.unitBasis, context.calculation.diagramTemperature, context.model.substance);
 }
@@ -77,27 +78,32 @@ void JudgeGivenState(PointRun& run) {
     result.co1.bold = true;
     result.co1.size = verdictSize;
     std::int16_t& verdict = model.work.RegionCode;
+    std::string_view text;
     if (static_cast<float>(T) == static_cast<float>(Tc) && static_cast<float>(p) == static_cast<float>(pc)) {
         verdict = 4;
-        result.co1.text = "=> kritischer Punkt (T = T(cr), p = p(cr))";
+        text = "=> kritischer Punkt (T = T(cr), p = p(cr))";
     } else if (p < pc && T < Tc) {
         verdict = 0;
-        result.co1 = ResultLabel{result.co1.text};
+        result.co1.colour = TextColour::Black;
+        result.co1.bold = false;
+        result.co1.size = ResultLabel().size;
     } else if (p > pc && T > Tc) {
         verdict = 2;
-        result.co1.text = "=> überkritische Phase L = V (T > T(cr), p > p(cr))";
+        text = "=> überkritische Phase L = V (T > T(cr), p > p(cr))";
     } else if (p > pc) {
         verdict = 1;
-        result.co1.text = "=> überkritische L-Phase (T < T(cr), p > p(cr))";
+        text = "=> überkritische L-Phase (T < T(cr), p > p(cr))";
         result.lblVphase = "L-Phase";
     } else if (T > Tc && p == 0) {
         verdict = 3;
-        result.co1.text = "=> überkritische Phase (T > T(cr))";
+        text = "=> überkritische Phase (T > T(cr))";
     } else if (T > Tc) {
         verdict = 3;
-        result.co1.text = "=> überkritische V-Phase (T > T(cr), p < p(cr))";
+        text = "=> überkritische V-Phase (T > T(cr), p < p(cr))";
         result.lblLphase = "V-Phase";
     }
+    if (!text.empty())
+        ShowText(run, result.co1, text);
 }
 
 // The diagnosis window explains a genuine cubic solution only.

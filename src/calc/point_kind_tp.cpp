@@ -26,6 +26,8 @@ void AppendCriticalPoint(PointRun& run) {
     const SubstanceData& substance = run.context.model.substance;
     const NumberStyle style = run.context.style;
     const double vCrit = run.context.model.eos.vCritCalc;
+    if (run.options.suppressReport)
+        return;
     AppendLine(run, "kritischer Punkt!");
     AppendLine(run, " T(cr) = " + Format(substance.Tc, "####0.00 K", style));
     AppendLine(run, " p(cr) = " + Format(substance.pc, "#####.00 kPa", style));
@@ -62,12 +64,12 @@ void SolveAtTP(PointRun& run) {
         return;
     if (NearCriticalPoint(run))
         AppendCriticalPoint(run);
-    if (model.selection.nonCubic) {
+    if (model.selection.nonCubic && !run.options.suppressReport) {
         const auto B = static_cast<float>(VirialCoefficientB(model, model.selection.eos, run.T));
         run.result.co2.text = " Virialkoeff. B = " + General(B, run.context.style) + "  m^3/kmol";
     }
     const bool solved = SolvePhases(run);
-    run.result.co1.text = StatusText(run.phases);
+    ShowText(run, run.result.co1, StatusText(run.phases));
     if (solved)
         AssumeEquilibriumAt(run);
 }
@@ -96,7 +98,7 @@ void CalculateFromPRho(PointRun& run) {
     }
     run.T = T;
     result.co2.reportBackground = true;
-    result.co2.text = " T = " + Format(T, "###0.000 K", run.context.style);
+    ShowText(run, result.co2, ' ' + TemperatureLabel(run));
     if (!SolvePhases(run))
         return;
     AppendDensityTable(run);

@@ -26,21 +26,32 @@ void AppendLine(PointRun& run, std::string_view line) {
     run.result.report += lineEnd;
 }
 
+void ShowText(PointRun& run, ResultLabel& label, std::string_view text) {
+    if (!run.options.suppressReport)
+        label.text = text;
+}
+
 std::string SmallOrMasked(const PointRun& run, double x, std::string_view mask) {
+    if (run.options.suppressReport)
+        return {};
     const NumberStyle style = run.context.style;
     return x < smallestMasked ? General(static_cast<float>(x), style) : Format(x, mask, style);
 }
 
 std::string TemperatureLabel(const PointRun& run) {
-    return "T = " + Format(run.T, "###0.000 K", run.context.style);
+    return run.options.suppressReport ? std::string()
+                                      : "T = " + Format(run.T, "###0.000 K", run.context.style);
 }
 
 std::string PressureLabel(const PointRun& run) {
-    return "p = " + Format(run.p, "####0.000 kPa", run.context.style);
+    return run.options.suppressReport ? std::string()
+                                      : "p = " + Format(run.p, "####0.000 kPa", run.context.style);
 }
 
 std::string DensityLabel(const PointRun& run) {
-    return "rho = " + Format(run.rho, "###0.0###", run.context.style) + " kg/m^3";
+    return run.options.suppressReport
+               ? std::string()
+               : "rho = " + Format(run.rho, "###0.0###", run.context.style) + " kg/m^3";
 }
 
 void FillEosState(PointRun& run, int rootIndex) {

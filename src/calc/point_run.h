@@ -26,6 +26,10 @@ const BatchRow& CurrentRow(const PointRun& run);
 // Adds one line to the report, unless the report is suppressed.
 void AppendLine(PointRun& run, std::string_view line);
 
+// The texts of the labels are empty where the report is suppressed: such a run is about its numbers.
+
+void ShowText(PointRun& run, ResultLabel& label, std::string_view text);
+
 // The number by the mask, or in general form where it is below 0.01 and the mask would show no digits.
 std::string SmallOrMasked(const PointRun& run, double x, std::string_view mask);
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/report_blocks.h"
 
-#include "calc/units.h"
 #include "state/constants.h"
 #include "text/columns.h"
+#include "thermo/cubic_equation.h"
 #include "thermo/virial_equation.h"
 
 namespace orva {
@@ -22,6 +22,8 @@ bool HasCubicTrailer(const PointRun& run) {
 }
 
 void AppendCubicParameters(PointRun& run) {
+    // What was computed last may have left the parameters of another temperature.
+    SetEosCoefficients(run.context.model, run.T);
     const EosParameters& eos = run.context.model.eos;
     const auto row = static_cast<std::size_t>(run.context.model.selection.eos);
     const std::string title = "Parameter der generalisierten kub. EOS ("
@@ -53,8 +55,7 @@ std::string ValueFields(const PointRun& run, double liquid, double vapour) {
 }
 
 void AppendDensityTable(PointRun& run) {
-    Options& options = run.context.options;
-    SetUnits(run.context.model, options);
+    const Options& options = run.context.options;
     const PhaseVolumes& phases = run.phases;
     const double displayedL = options.volumeFactor * phases.vL;
     const double displayedV = options.volumeFactor * phases.vV;
