@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/calc_batch.h"
 
+#include <cmath>
+
+#include "calc/input_checks.h"
 #include "calc/point_kinds.h"
 #include "calc/report_blocks.h"
 #include "calc/report_extended.h"
@@ -124,6 +127,44 @@ void BlankRecord(ResultRecord& record) {
     record.Tcalc = record.pcalc = record.rhoV = record.rhoL = record.hLV = 0;
 }
 
+template<class Number, std::size_t count>
+void AddFaults(const std::array<Number, count>& values, double& faults) {
+    for (const Number value : values)
+        faults += value * Number(0);
+}
+
+// Zero times a finite number adds nothing; anything else spoils the sum.
+bool AllFinite(const PointResult& result) {
+    const ResultRecord& r = result.record;
+    double faults = 0;
+    AddFaults(result.results, faults);
+    AddFaults(std::array{result.T, result.p, static_cast<double>(result.liquidPercent)}, faults);
+    AddFaults(std::array{r.T, r.p, r.v, r.Tcalc, r.pcalc, r.rhoV, r.rhoL, r.hLV, r.h, r.s, r.g, r.eH, r.eU},
+              faults);
+    for (const std::size_t phase : {0U, 1U}) {
+        AddFaults(r.deriv[phase], faults);
+        AddFaults(r.resid[phase], faults);
+        AddFaults(r.coeff[phase], faults);
+        AddFaults(r.mech[phase], faults);
+    }
+    return faults == 0;
+}
+
+// A number beyond its precision is an overflow: nothing of the run but its finite slots stays.
+void VoidRun(PointRun& run) {
+    PointResult& result = run.result;
+    for (double& value : result.results)
+        value = std::isfinite(value) ? value : 0;
+    result.T = std::isfinite(result.T) ? result.T : 0;
+    result.p = std::isfinite(result.p) ? result.p : 0;
+    result.liquidPercent = 0;
+    result.record = {};
+    result.report.clear();
+    result.co1 = result.co2 = {};
+    result.diagnoseEnabled = false;
+    ReportFailure(run, FailureNumber());
+}
+
 void CommonEnd(PointRun& run) {
     PointResult& result = run.result;
     const bool cubic = !run.context.model.selection.nonCubic;
@@ -151,6 +192,8 @@ void CommonEnd(PointRun& run) {
     result.T = run.T;
     result.p = run.p;
     result.roots = run.context.model.work.Roots;
+    if (!AllFinite(result))
+        VoidRun(run);
 }
 
 } // namespace

@@ -5,8 +5,7 @@
 
 #include <cmath>
 
-#include "shell/road.h"
-#include "support/scripted_dialogs.h"
+#include "master_database.h"
 #include "thermo/caloric_state.h"
 #include "thermo/cubic_equation.h"
 #include "thermo/eos_temperature.h"
@@ -18,42 +17,6 @@
 
 namespace orva::test {
 namespace {
-
-// The folder that the build made.
-class BuiltMachine : public Machine {
-public:
-    std::filesystem::path InstallationFolder() const override { return ORVA_INSTALLATION_FOLDER; }
-    std::filesystem::path WritableFolder() const override { return ORVA_INSTALLATION_FOLDER; }
-    bool DecimalComma() const override { return false; }
-};
-
-struct MasterDatabase : testing::Test {
-    BuiltMachine machine;
-    ScriptedDialogs dialogs;
-    Session session{machine, dialogs};
-
-    void SetUp() override { ASSERT_TRUE(OpenDatabase(session, "ORVA.Q05")); }
-
-    // Calls `check` for every substance and every row that its data allow, with the constants determined.
-    template<class Check> void ForEveryModel(Check check) {
-        for (int index = 1; index <= session.state.substanceCount; ++index) {
-            if (!AcceptSubstance(session, index))
-                continue;
-            ModelChoice choice = MakeModelChoice(session);
-            choice.Open();
-            for (std::size_t row = 0; row < choice.EOSKombi.rows.size(); ++row) {
-                choice.SelectEos(static_cast<int>(row));
-                ASSERT_TRUE(choice.OKModell(dialogs));
-                if (session.model.selection.eos == virialByHand) {
-                    session.model.eos.b0 = 0.1;
-                    session.model.eos.nB = 1e4;
-                    session.model.eos.nF = 1.5;
-                }
-                check(session.model);
-            }
-        }
-    }
-};
 
 constexpr double reducedTemperatures[] = {0.3, 0.5, 0.7, 0.9, 0.999, 1.0, 1.1, 1.6, 3.0};
 constexpr double pressures[] = {1e-3, 1.0, 101.325, 2000.0, 1e5};
