@@ -127,19 +127,21 @@ void BlankRecord(ResultRecord& record) {
     record.Tcalc = record.pcalc = record.rhoV = record.rhoL = record.hLV = 0;
 }
 
+// Zero times a finite number adds nothing; anything else spoils the sum. All that is printed or kept is
+// single precision in the end.
 template<class Number, std::size_t count>
-void AddFaults(const std::array<Number, count>& values, double& faults) {
+void AddFaults(const std::array<Number, count>& values, float& faults) {
     for (const Number value : values)
-        faults += value * Number(0);
+        faults += static_cast<float>(value) * 0.0F;
 }
 
-// Zero times a finite number adds nothing; anything else spoils the sum.
 bool AllFinite(const PointResult& result) {
     const ResultRecord& r = result.record;
-    double faults = 0;
+    float faults = 0;
     AddFaults(result.results, faults);
-    AddFaults(std::array{result.T, result.p, static_cast<double>(result.liquidPercent)}, faults);
-    AddFaults(std::array{r.T, r.p, r.v, r.Tcalc, r.pcalc, r.rhoV, r.rhoL, r.hLV, r.h, r.s, r.g, r.eH, r.eU},
+    AddFaults(std::array{result.T, result.p}, faults);
+    AddFaults(std::array{r.T, r.p, r.v, r.Tcalc, r.pcalc, r.rhoV, r.rhoL, r.hLV, r.h, r.s, r.g, r.eH, r.eU,
+                         result.liquidPercent},
               faults);
     for (const std::size_t phase : {0U, 1U}) {
         AddFaults(r.deriv[phase], faults);
@@ -150,7 +152,7 @@ bool AllFinite(const PointResult& result) {
     return faults == 0;
 }
 
-// A number beyond its precision is an overflow: nothing of the run but its finite slots stays.
+// A number beyond single precision is an overflow: nothing of the run but its finite slots stays.
 void VoidRun(PointRun& run) {
     PointResult& result = run.result;
     for (double& value : result.results)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/report_blocks.h"
 
+#include <cmath>
+
 #include "state/constants.h"
 #include "text/columns.h"
 #include "thermo/cubic_equation.h"
@@ -40,6 +42,8 @@ void AppendCubicParameters(PointRun& run) {
 void AppendVirialCoefficient(PointRun& run) {
     SubstanceModel& model = run.context.model;
     const auto B = static_cast<float>(VirialCoefficientB(model, model.selection.eos, run.T));
+    if (!std::isfinite(B))
+        return;
     AppendLine(run, "");
     AppendLine(run, "Virialkoeffizient:");
     AppendLine(run, "  B =" + Str(B, run.context.style) + " m^3/kmol");

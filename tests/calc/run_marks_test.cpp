@@ -156,6 +156,24 @@ TEST(Overflow, VoidsTheRun) {
     EXPECT_EQ(r.reportColour, TextColour::Red);
 }
 
+// The sinh/cosh form of the heat capacity has no value at or below 0.1 K.
+TEST(FailedFunctions, LeaveTheSlotsOfTheirPhaseAndTurnTheReportRed) {
+    Reported c(eosIdealGas);
+    c.model.selection.cpModel = 2;
+    const PointResult r = c.Run(kindFunctions, RowTP(0.1, 1e-3));
+    EXPECT_TRUE(r.failed);
+    EXPECT_EQ(r.report, "                         Meldung von Sub CalcBatch: (E-1)\r\n");
+    EXPECT_EQ(r.reportColour, TextColour::Red);
+    std::array<double, resultCount> given{};
+    given[slotT] = 0.1;
+    given[slotP] = 1e-3;
+    EXPECT_EQ(r.results, given);
+    EXPECT_EQ(r.record.phase, "   ");
+    c.state.FunctionList = true;
+    EXPECT_TRUE(c.Run(kindTP, RowTP(0.1, 1e-3)).failed);
+    EXPECT_FALSE(c.Run(kindFunctions, RowTP(200, 100)).failed);
+}
+
 // Kept on purpose: at T(cr) the volumes are 1 / rho(cr) of the equation, without the molar mass.
 TEST(CriticalTemperature, GivesTheCriticalPressureAndTheReciprocalDensity) {
     Reported c;
