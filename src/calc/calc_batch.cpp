@@ -2,6 +2,7 @@
 #include "calc/calc_batch.h"
 
 #include <cmath>
+#include <limits>
 
 #include "calc/input_checks.h"
 #include "calc/point_kinds.h"
@@ -127,29 +128,24 @@ void BlankRecord(ResultRecord& record) {
     record.Tcalc = record.pcalc = record.rhoV = record.rhoL = record.hLV = 0;
 }
 
-// Zero times a finite number adds nothing; anything else spoils the sum. All that is printed or kept is
-// single precision in the end.
-template<class Number, std::size_t count>
-void AddFaults(const std::array<Number, count>& values, float& faults) {
+// All that is printed or kept is single precision in the end.
+template<class Number, std::size_t count> bool AllSingles(const std::array<Number, count>& values) {
+    constexpr Number largest = std::numeric_limits<float>::max();
+    bool all = true;
     for (const Number value : values)
-        faults += static_cast<float>(value) * 0.0F;
+        all &= std::abs(value) <= largest;
+    return all;
 }
 
 bool AllFinite(const PointResult& result) {
     const ResultRecord& r = result.record;
-    float faults = 0;
-    AddFaults(result.results, faults);
-    AddFaults(std::array{result.T, result.p}, faults);
-    AddFaults(std::array{r.T, r.p, r.v, r.Tcalc, r.pcalc, r.rhoV, r.rhoL, r.hLV, r.h, r.s, r.g, r.eH, r.eU,
-                         result.liquidPercent},
-              faults);
-    for (const std::size_t phase : {0U, 1U}) {
-        AddFaults(r.deriv[phase], faults);
-        AddFaults(r.resid[phase], faults);
-        AddFaults(r.coeff[phase], faults);
-        AddFaults(r.mech[phase], faults);
-    }
-    return faults == 0;
+    bool all = AllSingles(result.results) && AllSingles(std::array{result.T, result.p})
+               && AllSingles(std::array{r.T, r.p, r.v, r.Tcalc, r.pcalc, r.rhoV, r.rhoL, r.hLV, r.h, r.s, r.g,
+                                        r.eH, r.eU, result.liquidPercent});
+    for (const std::size_t phase : {0U, 1U})
+        all = all && AllSingles(r.deriv[phase]) && AllSingles(r.resid[phase]) && AllSingles(r.coeff[phase])
+              && AllSingles(r.mech[phase]);
+    return all;
 }
 
 // A number beyond single precision is an overflow: nothing of the run but its finite slots stays.
