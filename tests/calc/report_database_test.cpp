@@ -253,5 +253,21 @@ TEST(DatabaseReport, MissingTemperature) {
     EXPECT_TRUE(r.failed);
 }
 
+TEST(DatabaseReport, DecimalCommaInValueAndVolumes) {
+    Reported c;
+    c.style.decimal = ',';
+    const PointResult r = c.Run(kindLiquidDensity, RowT(300));
+    ExpectLabels(r, {"T = 300,000 K", "", " Berechnung aus der Datenbankfunktion  rho(L) =  Fu(T)",
+                     " rho(L) =  572,472873018813 kg/m^3"});
+    EXPECT_EQ(r.report, "            v  /m^3/kmol = 0,101528\r\n"
+                        "            v  /m^3/kg   = 0,001747\r\n"
+                        "\r\n"
+                        " Die Funktion ist gültig innerhalb folgender Temperaturgrenzen:\r\n"
+                        " T(Lo)/K = 135\r\n"
+                        " T(Hi)/K = 424\r\n");
+    EXPECT_EQ(r.record.phase, "   ");
+    EXPECT_FALSE(r.failed);
+}
+
 } // namespace
 } // namespace orva::test

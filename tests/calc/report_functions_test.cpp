@@ -233,5 +233,34 @@ TEST(FunctionsReport, IdealGas) {
     EXPECT_FALSE(r.failed);
 }
 
+TEST(FunctionsReport, DecimalCommaInTheTable) {
+    Reported c;
+    c.style.decimal = ',';
+    const PointResult r = c.Run(kindFunctions, RowTP(350, 500));
+    ExpectLabels(r, {"T = 350,000 K", "p = 500,000 kPa", "", ""});
+    EXPECT_EQ(r.report, "\r\n"
+                        "Volumen          v/ (m^3/kmol)  =                     5,274339\r\n"
+                        "Enthalpie        h/ (kJ/kmol)   =                     4659,417\r\n"
+                        "Entropie         s/ (kJ/kmol/K) =                     2,042879\r\n"
+                        "Freie Enthalpie  g/ (kJ/kmol)   =                    3944,41\r\n"
+                        "Innere Energie   u/ (kJ/kmol)   =                    2022,248\r\n"
+                        "Freie Energie    a/ (kJ/kmol)   =                    1307,24\r\n"
+                        "Exergie von H    e/ (kJ/kmol)   =                    4119,416\r\n"
+                        "Exergie von U    e/ (kJ/kmol)   =                    2016,669\r\n"
+                        "Wärmekapazität   cp/(kJ/kmol/K) =                    115,3004\r\n"
+                        "Wärmekapazität   cV/(kJ/kmol/K) =                    103,5007\r\n"
+                        "Schallgeschwind. as/ (m/s)      =                    213,2701\r\n"
+                        "\r\n"
+                        "\r\n"
+                        "Parameter der generalisierten kub. EOS (CEOS Peng / Robinson):\r\n"
+                        "==============================================================\r\n"
+                        "  A = 1698,25955266149\r\n"
+                        "  B = 7,24410574720806E-02\r\n"
+                        "  C =-3,00060684775846E-02\r\n"
+                        "  D = 0,174888183421746\r\n");
+    EXPECT_EQ(r.record.phase, " L ");
+    EXPECT_FALSE(r.failed);
+}
+
 } // namespace
 } // namespace orva::test

@@ -336,5 +336,40 @@ TEST(TRhoReport, AVapourPressureTooSmallForANumberFails) {
     EXPECT_EQ(r.reportColour, TextColour::Red);
 }
 
+TEST(TRhoReport, DecimalCommaReachesTheMixture) {
+    Reported c;
+    c.style.decimal = ',';
+    const PointResult r = c.Run(kindTRho, RowTRho(350, 100));
+    ExpectLabels(r, {"T = 350,000 K", "rho = 100,0 kg/m^3", "", " Dampfdruck p/kPa = 946,366"});
+    EXPECT_EQ(r.report, "                      Verdampfungsgrad y(V) = 0,19759312\r\n"
+                        "\r\n"
+                        "Dichte           rho/ (kg/m^3)  = 516,2078            23,39606\r\n"
+                        "Volumen          v/ (m^3/kmol)  = 0,1125946           2,484273\r\n"
+                        "\r\n"
+                        "molare globale Funktionen  z = y(V) z(V) + (1 - y(V) z(L)\r\n"
+                        "=========================================================\r\n"
+                        "\r\n"
+                        "Dichte rho        =  100  kg/m^3\r\n"
+                        "Volumen v         =  0,581222  m^3/kmol\r\n"
+                        "Enthalpie h       = -10193,3  kJ/kmol\r\n"
+                        "Entropie s        = -44,97554  kJ/(kmol K)\r\n"
+                        "Freie Enthalpie g =  5548,136  kJ/kmol\r\n"
+                        "Innere Energie u  = -10743,35  kJ/kmol\r\n"
+                        "Freie Energie a   =  4998,087  kJ/kmol\r\n"
+                        "Exergie eH        =  3285,237  kJ/kmol\r\n"
+                        "Exergie eU        =  2794,081  kJ/kmol\r\n"
+                        "Wärmekapazität cp =  160,3112  kJ/(kmol K)\r\n"
+                        "Wärmekapazität cV =  113,9729  kJ/(kmol K)\r\n"
+                        "\r\n"
+                        "Parameter der generalisierten kub. EOS (CEOS Peng / Robinson):\r\n"
+                        "==============================================================\r\n"
+                        "  A = 1698,25955266149\r\n"
+                        "  B = 7,24410574720806E-02\r\n"
+                        "  C =-3,00060684775846E-02\r\n"
+                        "  D = 0,174888183421746\r\n");
+    EXPECT_EQ(r.record.phase, "V+L");
+    EXPECT_FALSE(r.failed);
+}
+
 } // namespace
 } // namespace orva::test

@@ -353,5 +353,31 @@ TEST(VaporisationReport, MissingTemperature) {
     EXPECT_TRUE(r.failed);
 }
 
+TEST(VaporisationReport, DecimalCommaInTheReport) {
+    Reported c;
+    c.model.selection.vaporization = 5;
+    c.style.decimal = ',';
+    const PointResult r = c.Run(kindVaporisationAtT, RowT(320));
+    ExpectLabels(r, {"T = 320,000 K", "", "p = p(LV) von Dampfdruckgleichung:", " p(LV) = 468,682 kPa"});
+    EXPECT_EQ(r.report,
+              "Verdampfungsenthalpie aus  aktueller Dampfdruckgleichung\r\n" + Line(softHyphen, 70)
+                  + "\r\n"
+                    "                    delta(LV)h/(kJ/kmol) = 19402,0\r\n"
+                    "\r\n"
+                    "(Verdampfungsentropie delta(LV)s = delta(LV)h / T:\r\n"
+                    "delta(LV)s/(kJ/(kmol K)) =  60,63125)\r\n"
+                    "\r\n"
+                    "\r\n"
+                    "es wurden folgende Kompressibilitätsfaktoren z benutzt:\r\n"
+                    "             z(L) =  1,87016510923834E-02                z(V) =  0,884799626872737\r\n"
+                    "\r\n"
+                    "z(V) von CEOS Peng / Robinson               \r\n"
+                    "rho(L) für z(L)-Berechnung aus Datenbankfunktion rho(L) = Fu(T)\r\n"
+                    "\r\n"
+                    "Vergleich mit Datenbankfunktion: delta(LV)h/(kJ/kmol) = 19051,0\r\n");
+    EXPECT_EQ(r.record.phase, "V+L");
+    EXPECT_FALSE(r.failed);
+}
+
 } // namespace
 } // namespace orva::test
