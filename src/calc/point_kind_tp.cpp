@@ -6,6 +6,7 @@
 #include "calc/report_functions.h"
 #include "state/constants.h"
 #include "text/columns.h"
+#include "thermo/cubic_equation.h"
 #include "thermo/eos_temperature.h"
 #include "thermo/virial_equation.h"
 
@@ -58,6 +59,15 @@ bool SolvePhases(PointRun& run) {
     return true;
 }
 
+// The cubic equation has a branch below the co-volume that describes nothing, yet fulfils p, rho.
+bool BelowCoVolume(const PointRun& run, double T) {
+    SubstanceModel& model = run.context.model;
+    if (model.selection.nonCubic)
+        return false;
+    SetEosCoefficients(model, T);
+    return model.substance.molarMass / run.rho <= model.eos.B;
+}
+
 void SolveAtTP(PointRun& run) {
     SubstanceModel& model = run.context.model;
     if (!GivenPoint(run))
@@ -90,7 +100,7 @@ void CalculateFromPRho(PointRun& run) {
     result.par1.text = PressureLabel(run);
     result.par2.text = DensityLabel(run);
     const double T = EosTemperature(run.context.model, run.p, run.rho, false);
-    if (!(T > 0)) {
+    if (!(T > 0) || BelowCoVolume(run, T)) {
         result.failed = true;
         result.co2.colour = TextColour::Blue;
         result.co2.text = " Fehler";

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports for a temperature and pressure that the user declared to describe equilibrium, character by
-// character. The numbers were computed apart from the program: volumes as polynomial roots of the
-// Peng/Robinson equation, saturation by equal fugacities, residual functions from the Helmholtz energy by
-// numerical differentiation, all with 40 digits; the columns were laid out by the widths of the fields. The
+// character. The numbers were computed apart from the program: volumes as polynomial roots of the cubic
+// equation, saturation by equal fugacities, residual functions from the Helmholtz energy by numerical
+// differentiation, all with 40 digits; the columns were laid out by the widths of the fields. The
 // rectilinear diameter and the Rackett form were evaluated by hand.
 #include <gtest/gtest.h>
 

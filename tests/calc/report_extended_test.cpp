@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The blocks that extend a report, character by character. The numbers were computed apart from the program:
-// volumes as polynomial roots of the Peng/Robinson equation, saturation by equal fugacities, residual
-// functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were
-// laid out by the widths of the fields. The derivatives are central differences. The digit behind "2.Abl.="
-// is rounding noise of a value that is sought to be 0, and is left out.
+// volumes as polynomial roots of the cubic equation, saturation by equal fugacities, residual functions from
+// the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were laid out by the
+// widths of the fields. The derivatives are central differences. The digit behind "2.Abl.=" is rounding
+// noise of a value that is sought to be 0, and is left out.
 #include <gtest/gtest.h>
 
 #include "report_fixture.h"
@@ -359,6 +359,101 @@ TEST(ExtendedReport, DerivativesOfBothPhases) {
               "  C =-3.00060684775846E-02\r\n"
               "  D = 0.174888183421746\r\n");
     EXPECT_EQ(r.record.phase, "V+L");
+    EXPECT_FALSE(r.failed);
+}
+
+TEST(ExtendedReport, EverythingOfBerthelotVapour) {
+    Reported c(eosBerthelot);
+    c.state.ExtendedLevel = 4;
+    const PointResult r = c.Run(kindTP, RowTP(400, 1000));
+    ExpectLabels(r, {"T = 400.000 K", "p = 1000.000 kPa", "1 V-Lösung der EOS", ""});
+    EXPECT_EQ(WithoutSlopes(r.report),
+              "Dichte           rho/ (kg/m^3)  =                     19.61054\r\n"
+              "Volumen          v/ (m^3/kmol)  =                     2.963825\r\n"
+              "\r\n"
+              "**************************************************************************\r\n"
+              "diff. Joule-Thomson-Koeffizient; Fugazitätskoeffizient; Residualfunkt.\r\n"
+              "**************************************************************************\r\n"
+              " (dT/dp) bei H (Joule-Thomson-Koeff. [K/kPa]):\r\n"
+              "                                                 1.1564E-02\r\n"
+              "     ln (phi*) :                                -1.0326E-01\r\n"
+              "    dln phi/dT :                                 1.0207E-03\r\n"
+              "  d2ln phi/dT² :                                -1.2025E-05\r\n"
+              "Residualfunktionen:\r\n"
+              "   (s-s_idG)/R :                                -3.0501E-01\r\n"
+              "   (h-h_idG)/R :                                -1.6331E+02\r\n"
+              "   (g-g_idG)/R :                                -4.1305E+01\r\n"
+              " (cp-cp_idG)/R :                                 1.1075E+00\r\n"
+              "\r\n"
+              "********************************************************************\r\n"
+              "                     mechanische Koeffizienten\r\n"
+              "********************************************************************\r\n"
+              " alpha/(1/K)   :                                3.7966E-03\r\n"
+              "   chi/(1/kPa) :                                1.1367E-03\r\n"
+              "  beta/(1/K)   :                                3.3400E-03\r\n"
+              "\r\n"
+              "********************************************************************\r\n"
+              "                    Ableitungen nach T, p, V(molar)\r\n"
+              "\r\n"
+              "********************************************************************\r\n"
+              " (dp/dV) bei T :                                -2.9683E+02\r\n"
+              " (dp/dT) bei v :                                 3.3400E+00\r\n"
+              " (dV/dp) bei T :                                -3.3690E-03\r\n"
+              " (dV/dT) bei p :                                 1.1252E-02\r\n"
+              " (dT/dV) bei p :                                 8.8870E+01\r\n"
+              " (dT/dp) bei v :                                 2.9940E-01\r\n"
+              "       d2p/dV² :                                 1.7336E+02\r\n"
+              "       d2V/dT² :                                -3.2363E-05\r\n"
+              "       d2T/dV² :                                -2.5560E-01\r\n"
+              "1.Wendepunkt p-v-Isoth.: v = 0.29455 m^3/kmol, p = 1658 kPa (vgl. 2.Abl.=)\r\n"
+              "2.Wendepunkt p-v-Isoth.: v = 0.86104 m^3/kmol, p = 2476 kPa (vgl. 2.Abl.=)\r\n"
+              "\r\n"
+              "Parameter der generalisierten kub. EOS (CEOS Berthelot):\r\n"
+              "========================================================\r\n"
+              "  A = 1475.77738160676\r\n"
+              "  B = 0.116395747620851\r\n"
+              "  C = 0\r\n"
+              "  D = 0\r\n");
+    EXPECT_EQ(r.record.phase, " V ");
+    EXPECT_FALSE(r.failed);
+}
+
+TEST(ExtendedReport, CoefficientsOfSoaveRedlichKwongLiquid) {
+    Reported c(eosSoaveRedlichKwong);
+    c.state.ExtendedLevel = 2;
+    const PointResult r = c.Run(kindTP, RowTP(300, 1000));
+    ExpectLabels(r, {"T = 300.000 K", "p = 1000.000 kPa", "3 V-Lösungen der EOS", ""});
+    EXPECT_EQ(r.report, "Dichte           rho/ (kg/m^3)  = 531.1425            \r\n"
+                        "Volumen          v/ (m^3/kmol)  = 0.1094286           \r\n"
+                        "\r\n"
+                        "**************************************************************************\r\n"
+                        "diff. Joule-Thomson-Koeffizient; Fugazitätskoeffizient; Residualfunkt.\r\n"
+                        "**************************************************************************\r\n"
+                        " (dT/dp) bei H (Joule-Thomson-Koeff. [K/kPa]):\r\n"
+                        "                   -2.2502E-04\r\n"
+                        "     ln (phi*) :   -1.3892E+00\r\n"
+                        "    dln phi/dT :    2.9099E-02\r\n"
+                        "  d2ln phi/dT² :   -2.5527E-04\r\n"
+                        "Residualfunktionen:\r\n"
+                        "   (s-s_idG)/R :   -7.3405E+00\r\n"
+                        "   (h-h_idG)/R :   -2.6189E+03\r\n"
+                        "   (g-g_idG)/R :   -4.1675E+02\r\n"
+                        " (cp-cp_idG)/R :    5.5148E+00\r\n"
+                        "\r\n"
+                        "********************************************************************\r\n"
+                        "                     mechanische Koeffizienten\r\n"
+                        "********************************************************************\r\n"
+                        " alpha/(1/K)   :   2.3437E-03\r\n"
+                        "   chi/(1/kPa) :   5.1265E-06\r\n"
+                        "  beta/(1/K)   :   4.5717E-01\r\n"
+                        "\r\n"
+                        "Parameter der generalisierten kub. EOS (CEOS Soave / Redlich / Kwong):\r\n"
+                        "======================================================================\r\n"
+                        "  A = 1783.93184968755\r\n"
+                        "  B = 8.06765464664274E-02\r\n"
+                        "  C = 0\r\n"
+                        "  D = 8.06765464664274E-02\r\n");
+    EXPECT_EQ(r.record.phase, " L ");
     EXPECT_FALSE(r.failed);
 }
 

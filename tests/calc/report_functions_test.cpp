@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports of the caloric functions, character by character. The numbers were computed apart from the
-// program: volumes as polynomial roots of the Peng/Robinson equation, saturation by equal fugacities,
-// residual functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns
-// were laid out by the widths of the fields. The ideal-gas integrals are those of the polynomial, the
-// ambient state is 298.15 K and 101.325 kPa.
+// program: volumes as polynomial roots of the cubic equation, saturation by equal fugacities, residual
+// functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were
+// laid out by the widths of the fields. The ideal-gas integrals are those of the polynomial, the ambient
+// state is 298.15 K and 101.325 kPa.
 #include <gtest/gtest.h>
 
 #include "report_fixture.h"
@@ -258,6 +258,91 @@ TEST(FunctionsReport, DecimalCommaInTheTable) {
                         "  B = 7,24410574720806E-02\r\n"
                         "  C =-3,00060684775846E-02\r\n"
                         "  D = 0,174888183421746\r\n");
+    EXPECT_EQ(r.record.phase, " L ");
+    EXPECT_FALSE(r.failed);
+}
+
+TEST(FunctionsReport, VanDerWaalsVapour) {
+    Reported c(eosVanDerWaals);
+    const PointResult r = c.Run(kindFunctions, RowTP(400, 1000));
+    ExpectLabels(r, {"T = 400.000 K", "p = 1000.000 kPa", "", ""});
+    EXPECT_EQ(r.report, "\r\n"
+                        "Volumen          v/ (m^3/kmol)  =                     2.996857\r\n"
+                        "Enthalpie        h/ (kJ/kmol)   =                     10520.62\r\n"
+                        "Entropie         s/ (kJ/kmol/K) =                     12.22566\r\n"
+                        "Freie Enthalpie  g/ (kJ/kmol)   =                    5630.353\r\n"
+                        "Innere Energie   u/ (kJ/kmol)   =                    7523.762\r\n"
+                        "Freie Energie    a/ (kJ/kmol)   =                    2633.496\r\n"
+                        "Exergie von H    e/ (kJ/kmol)   =                    6920.888\r\n"
+                        "Exergie von U    e/ (kJ/kmol)   =                    4227.687\r\n"
+                        "Wärmekapazität   cp/(kJ/kmol/K) =                    126.6029\r\n"
+                        "Wärmekapazität   cV/(kJ/kmol/K) =                    115.4063\r\n"
+                        "Schallgeschwind. as/ (m/s)      =                    224.6277\r\n"
+                        "\r\n"
+                        "\r\n"
+                        "Parameter der generalisierten kub. EOS (CEOS van der Waals):\r\n"
+                        "============================================================\r\n"
+                        "  A = 1388.55854782171\r\n"
+                        "  B = 0.116395747620851\r\n"
+                        "  C = 0\r\n"
+                        "  D = 0\r\n");
+    EXPECT_EQ(r.record.phase, " L ");
+    EXPECT_FALSE(r.failed);
+}
+
+TEST(FunctionsReport, SoaveRedlichKwongLiquid) {
+    Reported c(eosSoaveRedlichKwong);
+    const PointResult r = c.Run(kindFunctions, RowTP(300, 1000));
+    ExpectLabels(r, {"T = 300.000 K", "p = 1000.000 kPa", "", ""});
+    EXPECT_EQ(r.report, "\r\n"
+                        "Volumen          v/ (m^3/kmol)  = 0.1094286           \r\n"
+                        "Enthalpie        h/ (kJ/kmol)   = -21593.12           \r\n"
+                        "Entropie         s/ (kJ/kmol/K) = -79.46031           \r\n"
+                        "Freie Enthalpie  g/ (kJ/kmol)   =2244.974            \r\n"
+                        "Innere Energie   u/ (kJ/kmol)   =-21702.55           \r\n"
+                        "Freie Energie    a/ (kJ/kmol)   =2135.546            \r\n"
+                        "Exergie von H    e/ (kJ/kmol)   =2163.721            \r\n"
+                        "Exergie von U    e/ (kJ/kmol)   =2065.381            \r\n"
+                        "Wärmekapazität   cp/(kJ/kmol/K) =144.3773            \r\n"
+                        "Wärmekapazität   cV/(kJ/kmol/K) =109.2024            \r\n"
+                        "Schallgeschwind. as/ (m/s)      =696.8129            \r\n"
+                        "\r\n"
+                        "\r\n"
+                        "Parameter der generalisierten kub. EOS (CEOS Soave / Redlich / Kwong):\r\n"
+                        "======================================================================\r\n"
+                        "  A = 1783.93184968755\r\n"
+                        "  B = 8.06765464664274E-02\r\n"
+                        "  C = 0\r\n"
+                        "  D = 8.06765464664274E-02\r\n");
+    EXPECT_EQ(r.record.phase, " L ");
+    EXPECT_FALSE(r.failed);
+}
+
+TEST(FunctionsReport, RedlichKwongUndividedFluid) {
+    Reported c(eosRedlichKwong);
+    const PointResult r = c.Run(kindFunctions, RowTP(500, 6000));
+    ExpectLabels(
+        r, {"T = 500.000 K", "p = 6000.000 kPa", "=> überkritische Phase L = V (T > T(cr), p > p(cr))", ""});
+    EXPECT_EQ(r.report, "\r\n"
+                        "Volumen          v/ (m^3/kmol)  = 0.4291647           0.4291647\r\n"
+                        "Enthalpie        h/ (kJ/kmol)   = 19112.91            19112.91\r\n"
+                        "Entropie         s/ (kJ/kmol/K) = 20.15203            20.15203\r\n"
+                        "Freie Enthalpie  g/ (kJ/kmol)   =9036.901            9036.901\r\n"
+                        "Innere Energie   u/ (kJ/kmol)   =16537.93            16537.93\r\n"
+                        "Freie Energie    a/ (kJ/kmol)   =6461.913            6461.913\r\n"
+                        "Exergie von H    e/ (kJ/kmol)   =13165.72            13165.72\r\n"
+                        "Exergie von U    e/ (kJ/kmol)   =10634.21            10634.21\r\n"
+                        "Wärmekapazität   cp/(kJ/kmol/K) =192.9889            192.9889\r\n"
+                        "Wärmekapazität   cV/(kJ/kmol/K) =142.4907            142.4907\r\n"
+                        "Schallgeschwind. as/ (m/s)      =194.1857            194.1857\r\n"
+                        "\r\n"
+                        "\r\n"
+                        "Parameter der generalisierten kub. EOS (CEOS Redlich / Kwong):\r\n"
+                        "==============================================================\r\n"
+                        "  A = 1297.38766453279\r\n"
+                        "  B = 8.06765464664274E-02\r\n"
+                        "  C = 0\r\n"
+                        "  D = 8.06765464664274E-02\r\n");
     EXPECT_EQ(r.record.phase, " L ");
     EXPECT_FALSE(r.failed);
 }

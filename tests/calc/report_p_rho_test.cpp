@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports for a given pressure and density, character by character. The numbers were computed apart from the
-// program: volumes as polynomial roots of the Peng/Robinson equation, saturation by equal fugacities,
-// residual functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns
-// were laid out by the widths of the fields. Where both phases exist the volumes are those at which the
-// search for equal areas ends, within 8e-6 of the exact ones.
+// program: volumes as polynomial roots of the cubic equation, saturation by equal fugacities, residual
+// functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were
+// laid out by the widths of the fields. Where both phases exist the volumes are those at which the search
+// for equal areas ends, within 8e-6 of the exact ones.
 #include <gtest/gtest.h>
 
 #include "report_fixture.h"

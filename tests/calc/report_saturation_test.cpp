@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports of vapour-liquid equilibrium, character by character. The numbers were computed apart from the
-// program: volumes as polynomial roots of the Peng/Robinson equation, saturation by equal fugacities,
-// residual functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns
-// were laid out by the widths of the fields. Under the global method pressure, temperature and volumes are
-// those at which the search for equal areas ends: the volumes lie within 2e-6 (from T) and 8e-6 (from p) of
-// the exact ones, the functions at the temperature found from p within 0.005 kJ/kg.
+// program: volumes as polynomial roots of the cubic equation, saturation by equal fugacities, residual
+// functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were
+// laid out by the widths of the fields. Under the global method pressure, temperature and volumes are those
+// at which the search for equal areas ends: the volumes lie within 2e-6 (from T) and 8e-6 (from p) of the
+// exact ones, the functions at the temperature found from p within 0.005 kJ/kg.
 #include <gtest/gtest.h>
 
 #include "calc/report_blocks.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports for a given temperature and density, character by character. The numbers were computed apart from
-// the program: volumes as polynomial roots of the Peng/Robinson equation, saturation by equal fugacities,
-// residual functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns
-// were laid out by the widths of the fields. Where both phases exist, pressure and volumes are those at
-// which the search for equal areas ends: 5e-7 off the exact ones at most.
+// the program: volumes as polynomial roots of the cubic equation, saturation by equal fugacities, residual
+// functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were
+// laid out by the widths of the fields. Where both phases exist, pressure and volumes are those at which the
+// search for equal areas ends: the printed numbers lie within 9e-6 of the exact ones.
 #include <gtest/gtest.h>
 
 #include "report_fixture.h"
@@ -367,6 +367,40 @@ TEST(TRhoReport, DecimalCommaReachesTheMixture) {
                         "  B = 7,24410574720806E-02\r\n"
                         "  C =-3,00060684775846E-02\r\n"
                         "  D = 0,174888183421746\r\n");
+    EXPECT_EQ(r.record.phase, "V+L");
+    EXPECT_FALSE(r.failed);
+}
+
+TEST(TRhoReport, BothPhasesOfSoaveRedlichKwong) {
+    Reported c(eosSoaveRedlichKwong);
+    const PointResult r = c.Run(kindTRho, RowTRho(350, 100));
+    ExpectLabels(r, {"T = 350.000 K", "rho = 100.0 kg/m^3", "", " Dampfdruck p/kPa = 958.314"});
+    EXPECT_EQ(r.report, "                      Verdampfungsgrad y(V) = 0.19290754\r\n"
+                        "\r\n"
+                        "Dichte           rho/ (kg/m^3)  = 454.8087            23.45259\r\n"
+                        "Volumen          v/ (m^3/kmol)  = 0.1277948           2.478284\r\n"
+                        "\r\n"
+                        "molare globale Funktionen  z = y(V) z(V) + (1 - y(V) z(L)\r\n"
+                        "=========================================================\r\n"
+                        "\r\n"
+                        "Dichte rho        =  100  kg/m^3\r\n"
+                        "Volumen v         =  0.581222  m^3/kmol\r\n"
+                        "Enthalpie h       = -10340.91  kJ/kmol\r\n"
+                        "Entropie s        = -45.57597  kJ/(kmol K)\r\n"
+                        "Freie Enthalpie g =  5610.68  kJ/kmol\r\n"
+                        "Innere Energie u  = -10897.9  kJ/kmol\r\n"
+                        "Freie Energie a   =  5053.687  kJ/kmol\r\n"
+                        "Exergie eH        =  3313.315  kJ/kmol\r\n"
+                        "Exergie eU        =  2815.214  kJ/kmol\r\n"
+                        "Wärmekapazität cp =  163.7284  kJ/(kmol K)\r\n"
+                        "Wärmekapazität cV =  115.8618  kJ/(kmol K)\r\n"
+                        "\r\n"
+                        "Parameter der generalisierten kub. EOS (CEOS Soave / Redlich / Kwong):\r\n"
+                        "======================================================================\r\n"
+                        "  A = 1619.88202090509\r\n"
+                        "  B = 8.06765464664274E-02\r\n"
+                        "  C = 0\r\n"
+                        "  D = 8.06765464664274E-02\r\n");
     EXPECT_EQ(r.record.phase, "V+L");
     EXPECT_FALSE(r.failed);
 }

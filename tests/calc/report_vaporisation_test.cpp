@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports of the enthalpy of vaporisation, character by character. The numbers were computed apart from the
-// program: volumes as polynomial roots of the Peng/Robinson equation, saturation by equal fugacities,
-// residual functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns
-// were laid out by the widths of the fields. Each of the seven ways was evaluated from its formula and
-// rounded to whole kJ/kmol before it was displayed.
+// program: volumes as polynomial roots of the cubic equation, saturation by equal fugacities, residual
+// functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were
+// laid out by the widths of the fields. Each of the seven ways was evaluated from its formula and rounded to
+// whole kJ/kmol before it was displayed.
 #include <gtest/gtest.h>
 
 #include "calc/report_blocks.h"

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports of a closed vessel, character by character. The numbers were computed apart from the program:
-// volumes as polynomial roots of the Peng/Robinson equation, saturation by equal fugacities, residual
-// functions from the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were
-// laid out by the widths of the fields. The split follows from the mean density by hand; where both phases
-// exist, the saturated volumes are those at which the search for equal areas ends, 9e-6 off in a printed
-// digit at most.
+// volumes as polynomial roots of the cubic equation, saturation by equal fugacities, residual functions from
+// the Helmholtz energy by numerical differentiation, all with 40 digits; the columns were laid out by the
+// widths of the fields. The split follows from the mean density by hand; where both phases exist, the
+// saturated volumes are those at which the search for equal areas ends, 9e-6 off in a printed digit at most.
 #include <gtest/gtest.h>
 
 #include "report_fixture.h"

@@ -174,6 +174,24 @@ TEST(FailedFunctions, LeaveTheSlotsOfTheirPhaseAndTurnTheReportRed) {
     EXPECT_FALSE(c.Run(kindFunctions, RowTP(200, 100)).failed);
 }
 
+// Water: at 3000 kg/m^3 the branch below the co-volume of 0.01897 m^3/kmol fulfils the equation at 1774.9 K.
+TEST(TemperatureOfADensity, IsNoneBelowTheCoVolume) {
+    SubstanceData water = Butane();
+    water.molarMass = 18.015F;
+    water.Tc = 647.096;
+    water.pc = 22064;
+    water.omega = 0.34429;
+    water.Tb = 373.124F;
+    for (const float rho : {960.0F, 1500.0F, 3000.0F, 1e5F}) {
+        Reported c(eosPengRobinson, vpNone, water);
+        const PointResult r = c.Run(kindPRho, RowPRho(101.325, rho));
+        EXPECT_TRUE(r.failed) << rho;
+        EXPECT_EQ(r.co2.text, " Fehler") << rho;
+        EXPECT_EQ(r.record.phase, "   ") << rho;
+        EXPECT_EQ(r.results[slotT], 0) << rho;
+    }
+}
+
 // Kept on purpose: at T(cr) the volumes are 1 / rho(cr) of the equation, without the molar mass.
 TEST(CriticalTemperature, GivesTheCriticalPressureAndTheReciprocalDensity) {
     Reported c;
