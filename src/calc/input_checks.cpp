@@ -66,7 +66,7 @@ bool TakeLiquidDensity(PointRun& run, ResultLabel& label) {
 void ReportFailure(PointRun& run, std::string_view message) {
     run.result.failed = true;
     run.result.reportColour = TextColour::Red;
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     AppendLine(run, Spaces(25) + "Meldung von Sub CalcBatch:" + std::string(message));
 }

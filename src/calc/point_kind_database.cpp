@@ -180,7 +180,7 @@ void CalculateDatabaseFunction(PointRun& run) {
     }
     FillSlots(run, *function, found.value);
     WarnOutOfRange(run, limits);
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     if (result.kind == kindLiquidDensity || result.kind == kindSolidDensity)
         AppendVolumes(run, found.value);

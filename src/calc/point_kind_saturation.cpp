@@ -70,10 +70,6 @@ bool FindByEquation(PointRun& run) {
     return true;
 }
 
-std::string MaskedTemperature(const PointRun& run, std::string_view mask) {
-    return run.options.suppressReport ? std::string() : Format(run.T, mask, run.context.style);
-}
-
 std::string FoundPressure(const PointRun& run) {
     return " p(LV) = " + SmallOrMasked(run, run.p, "####0.000") + " kPa";
 }
@@ -95,7 +91,7 @@ bool FindInDataRow(PointRun& run) {
         if (run.T < missingValue)
             Fail(run, result.co2, " kein T(LV) verfügbar o. berechenbar");
         else
-            ShowText(run, result.co2, " T(LV) (aus Datensatz) = " + MaskedTemperature(run, "####.0# K"));
+            ShowText(run, result.co2, " T(LV) (aus Datensatz) = " + Masked(run, run.T, "####.0# K"));
     }
     return !result.failed;
 }
@@ -111,7 +107,7 @@ bool FindPartialCoordinate(PointRun& run) {
         ShowText(run, result.co2, FoundPressure(run));
     } else {
         ShowText(run, result.co1, "T(LV) aus akt. Dampfdruckgleichung:");
-        ShowText(run, result.co2, " T(LV) = " + MaskedTemperature(run, "####.000 K"));
+        ShowText(run, result.co2, " T(LV) = " + Masked(run, run.T, "####.000 K"));
     }
     return true;
 }
@@ -170,8 +166,7 @@ void SolveByCubic(PointRun& run) {
     (fromT ? run.p : run.T) = saturation.value;
     result.rootIndex = 3;
     ShowText(run, result.co1, fromT ? "p(LV) aus kubischer EOS" : "T(LV) aus CEOS");
-    ShowText(run, result.co2,
-             fromT ? FoundPressure(run) : " T(LV) = " + MaskedTemperature(run, "###0.000 K"));
+    ShowText(run, result.co2, fromT ? FoundPressure(run) : " T(LV) = " + Masked(run, run.T, "###0.000 K"));
     TakeSaturationRoots(run);
     FillEosState(run, 3);
     AppendLine(run, Spaces(remarkIndent) + "aus kubischer EOS:");
@@ -184,7 +179,7 @@ void SolveWithoutPriority(PointRun& run) {
     const bool fromT = FromTemperature(run);
     if (!FindByEquation(run))
         return;
-    ShowText(run, result.co2, fromT ? FoundPressure(run) : "T(LV) = " + MaskedTemperature(run, "###0.0# K"));
+    ShowText(run, result.co2, fromT ? FoundPressure(run) : "T(LV) = " + Masked(run, run.T, "###0.0# K"));
     result.reportColour = TextColour::Red;
     const std::string rule = Line(softHyphen, ruleWidth);
     AppendLine(run, rule);

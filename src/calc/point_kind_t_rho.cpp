@@ -90,7 +90,7 @@ bool SolveSubcritical(PointRun& run, double v) {
     const SaturationResult saturation = EosSaturationPressure(model, run.T);
     run.result.rootIndex = 3;
     if (saturation.failed || saturation.value < missingValue) {
-        ReportFailure(run, saturation.failed ? FailureNumber() : FailureNumber(noModelFailure));
+        ReportFailure(run, FailureNumber(saturation.failed ? modelFailure : noModelFailure));
         return false;
     }
     const double pLV = saturation.value;
@@ -105,7 +105,7 @@ bool SolveSubcritical(PointRun& run, double v) {
     run.p = pLV;
     TakeSaturationRoots(run);
     run.y = (v - run.phases.vL) / (run.phases.vV - run.phases.vL);
-    if (!IsVessel(run) && !run.options.suppressReport) {
+    if (!IsVessel(run) && ShowsTexts(run)) {
         AppendLine(run, Spaces(22) + std::string(vapourFractionLabel)
                             + Format(run.y, "0.0#######", run.context.style));
         AppendLine(run, "");

@@ -27,7 +27,7 @@ void AppendCriticalPoint(PointRun& run) {
     const SubstanceData& substance = run.context.model.substance;
     const NumberStyle style = run.context.style;
     const double vCrit = run.context.model.eos.vCritCalc;
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     AppendLine(run, "kritischer Punkt!");
     AppendLine(run, " T(cr) = " + Format(substance.Tc, "####0.00 K", style));
@@ -74,7 +74,7 @@ void SolveAtTP(PointRun& run) {
         return;
     if (NearCriticalPoint(run))
         AppendCriticalPoint(run);
-    if (model.selection.nonCubic && !run.options.suppressReport) {
+    if (model.selection.nonCubic && ShowsTexts(run)) {
         const auto B = static_cast<float>(VirialCoefficientB(model, model.selection.eos, run.T));
         run.result.co2.text = " Virialkoeff. B = " + General(B, run.context.style) + "  m^3/kmol";
     }

@@ -65,7 +65,7 @@ void AppendDensityTable(PointRun& run) {
     const double displayedV = options.volumeFactor * phases.vV;
     run.result.results[slotVolumeV] = displayedV;
     run.result.results[slotVolumeL] = displayedL;
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     AppendLine(run, FixedField("Dichte", labelWidth)
                         + "rho/ (kg/m^3)  = " + ValueFields(run, phases.rhoL, phases.rhoV));
@@ -79,7 +79,7 @@ void AppendVolumeRow(PointRun& run) {
 }
 
 void AppendParameterTrailer(PointRun& run) {
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     const int kind = run.result.kind;
     const bool cubicKind = !run.context.model.selection.nonCubic;

@@ -119,7 +119,7 @@ bool FillFunctions(PointRun& run) {
 }
 
 void AppendRows(PointRun& run, std::string_view soundLabel) {
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     const auto& results = run.result.results;
     for (const FunctionRow& row : functionRows)
@@ -140,7 +140,7 @@ bool ListsFunctions(int kind) {
 } // namespace
 
 void AppendGlobalList(PointRun& run) {
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     const SaturationCaloricResult state = SaturationCaloric(run.context.model, run.T);
     if (state.failed)
@@ -169,7 +169,7 @@ void AppendGlobalList(PointRun& run) {
 }
 
 void AppendFunctionRows(PointRun& run) {
-    if (!FillFunctions(run) || run.options.suppressReport)
+    if (!FillFunctions(run) || !ShowsTexts(run))
         return;
     AppendLine(run, "");
     AppendVolumeRow(run);

@@ -88,7 +88,7 @@ void AppendVaporizationReport(PointRun& run, const VaporisationResult& found) {
         run.result.failed = true;
         return;
     }
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     ShowFoundCoordinate(run);
     const Options& options = run.context.options;

@@ -106,7 +106,7 @@ bool SolvePartial(PointRun& run) {
 }
 
 void AppendSplit(PointRun& run, double VV) {
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     const VesselInput& vessel = run.context.calculation.vessel;
     const NumberStyle style = run.context.style;

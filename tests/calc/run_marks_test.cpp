@@ -192,6 +192,35 @@ TEST(TemperatureOfADensity, IsNoneBelowTheCoVolume) {
     }
 }
 
+// Without a vapour-pressure equation the point comes from the data row and may lie off the two-phase line.
+TEST(PartialVapourRoot, IsTheSingleRootOnTheSideOfTheVapourOnly) {
+    Reported c(eosPengRobinson, vpNone);
+    c.TakePartial(true);
+    const double vapour =
+        1.33123580861259; // the only root at 420 K, 2000 kPa, by the roots of the polynomial
+    for (const int kind : {kindSaturationPressure, kindSaturationTemperature}) {
+        const PointResult side = c.Run(kind, RowTP(420, 2000));
+        EXPECT_FALSE(side.failed) << kind;
+        EXPECT_NEAR(side.results[slotVolumeV], vapour, 1e-9) << kind;
+        EXPECT_NEAR(side.record.rhoV, 58.1222 / vapour, 1e-4) << kind;
+        const PointResult other = c.Run(kind, RowTP(300, 3000)); // the only root is liquid
+        EXPECT_FALSE(other.failed) << kind;
+        EXPECT_EQ(other.results[slotVolumeV], 0) << kind;
+        EXPECT_EQ(other.record.rhoV, 0) << kind;
+        EXPECT_EQ(other.report.find("Dichte"), std::string::npos) << kind;
+        EXPECT_EQ(c.state.eosState.rootIndex, 3) << kind;
+    }
+}
+
+TEST(GlobalVolume, StandsInTheUnitsOfTheOptionsFromTheFirstRunOn) {
+    Reported c;
+    c.options.volumeBasis = 1;
+    EXPECT_NEAR(c.Run(kindTRho, RowTRho(350, 5)).results[slotVGlobal], 0.2, 1e-9);
+    c.options.volumeBasis = 2;
+    const double vCrit = 0.3074 * 8.31451 * 425.125 / 3796;
+    EXPECT_NEAR(c.Run(kindTRho, RowTRho(350, 5)).results[slotVGlobal], 58.1222 / 5 / vCrit, 1e-5);
+}
+
 // Kept on purpose: at T(cr) the volumes are 1 / rho(cr) of the equation, without the molar mass.
 TEST(CriticalTemperature, GivesTheCriticalPressureAndTheReciprocalDensity) {
     Reported c;
