@@ -82,6 +82,40 @@ inline void ExpectLabels(const PointResult& r, const Labels& labels) {
     EXPECT_EQ(r.co2.text, labels.co2);
 }
 
+// A run that gave a result: labels, phase of the record and the whole report.
+inline void ExpectGood(const PointResult& r, const Labels& labels, std::string_view phase,
+                       const std::string& report) {
+    ExpectLabels(r, labels);
+    EXPECT_EQ(r.record.phase, phase);
+    EXPECT_EQ(r.report, report);
+    EXPECT_FALSE(r.failed);
+}
+
+// A run that failed, with what it says of it.
+inline void ExpectFailed(const PointResult& r, const Labels& labels, const std::string& report = "",
+                         std::string_view note = "") {
+    ExpectLabels(r, labels);
+    EXPECT_EQ(r.record.phase, "   ");
+    EXPECT_EQ(r.report, report);
+    EXPECT_EQ(r.note, note);
+    EXPECT_EQ(r.reportColour == TextColour::Red, report.find("Meldung") != std::string::npos);
+    EXPECT_TRUE(r.failed);
+}
+
+// The end of every report with the Peng/Robinson equation. B = 0.07779607 R Tc / pc, C and D are (1 -+ sqrt
+// 2) B.
+inline std::string PengRobinsonTrailer(std::string_view A) {
+    return "\r\n"
+           "Parameter der generalisierten kub. EOS (CEOS Peng / Robinson):\r\n"
+           "==============================================================\r\n"
+           "  A = "
+           + std::string(A)
+           + "\r\n"
+             "  B = 7.24410574720806E-02\r\n"
+             "  C =-3.00060684775846E-02\r\n"
+             "  D = 0.174888183421746\r\n";
+}
+
 inline BatchRow RowT(double T) {
     BatchRow row;
     row.T = T;
