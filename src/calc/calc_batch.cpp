@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/calc_batch.h"
 
+#include <cmath>
+#include <limits>
+
+#include "calc/input_checks.h"
 #include "calc/point_kinds.h"
 #include "calc/report_blocks.h"
 #include "calc/report_extended.h"
@@ -60,6 +64,7 @@ void PrepareRun(CalculationContext& context) {
     state.rootIndex = 0;
     state.zV = state.zL = 0;
     state.pEos = 0;
+    SetUnits(context.model, context.options);
     context.options.energyFactor = EnergyFactor(
         context.options.unitBasis, context.calculation.diagramTemperature, context.model.substance);
 }
@@ -77,27 +82,32 @@ void JudgeGivenState(PointRun& run) {
     result.co1.bold = true;
     result.co1.size = verdictSize;
     std::int16_t& verdict = model.work.RegionCode;
+    std::string_view text;
     if (static_cast<float>(T) == static_cast<float>(Tc) && static_cast<float>(p) == static_cast<float>(pc)) {
         verdict = 4;
-        result.co1.text = "=> kritischer Punkt (T = T(cr), p = p(cr))";
+        text = "=> kritischer Punkt (T = T(cr), p = p(cr))";
     } else if (p < pc && T < Tc) {
         verdict = 0;
-        result.co1 = ResultLabel{result.co1.text};
+        result.co1.colour = TextColour::Black;
+        result.co1.bold = false;
+        result.co1.size = ResultLabel().size;
     } else if (p > pc && T > Tc) {
         verdict = 2;
-        result.co1.text = "=> überkritische Phase L = V (T > T(cr), p > p(cr))";
+        text = "=> überkritische Phase L = V (T > T(cr), p > p(cr))";
     } else if (p > pc) {
         verdict = 1;
-        result.co1.text = "=> überkritische L-Phase (T < T(cr), p > p(cr))";
+        text = "=> überkritische L-Phase (T < T(cr), p > p(cr))";
         result.lblVphase = "L-Phase";
     } else if (T > Tc && p == 0) {
         verdict = 3;
-        result.co1.text = "=> überkritische Phase (T > T(cr))";
+        text = "=> überkritische Phase (T > T(cr))";
     } else if (T > Tc) {
         verdict = 3;
-        result.co1.text = "=> überkritische V-Phase (T > T(cr), p < p(cr))";
+        text = "=> überkritische V-Phase (T > T(cr), p < p(cr))";
         result.lblLphase = "V-Phase";
     }
+    if (!text.empty())
+        ShowText(run, result.co1, text);
 }
 
 // The diagnosis window explains a genuine cubic solution only.
@@ -116,6 +126,41 @@ bool DiagnosisPossible(const PointRun& run) {
 void BlankRecord(ResultRecord& record) {
     record.phase = "   ";
     record.Tcalc = record.pcalc = record.rhoV = record.rhoL = record.hLV = 0;
+}
+
+// All that is printed or kept is single precision in the end.
+template<class Number, std::size_t count> bool AllSingles(const std::array<Number, count>& values) {
+    constexpr Number largest = std::numeric_limits<float>::max();
+    bool all = true;
+    for (const Number value : values)
+        all &= std::abs(value) <= largest;
+    return all;
+}
+
+bool AllFinite(const PointResult& result) {
+    const ResultRecord& r = result.record;
+    bool all = AllSingles(result.results) && AllSingles(std::array{result.T, result.p})
+               && AllSingles(std::array{r.T, r.p, r.v, r.Tcalc, r.pcalc, r.rhoV, r.rhoL, r.hLV, r.h, r.s, r.g,
+                                        r.eH, r.eU, result.liquidPercent});
+    for (const std::size_t phase : {0U, 1U})
+        all = all && AllSingles(r.deriv[phase]) && AllSingles(r.resid[phase]) && AllSingles(r.coeff[phase])
+              && AllSingles(r.mech[phase]);
+    return all;
+}
+
+// A number beyond single precision is an overflow: nothing of the run but its finite slots stays.
+void VoidRun(PointRun& run) {
+    PointResult& result = run.result;
+    for (double& value : result.results)
+        value = std::isfinite(value) ? value : 0;
+    result.T = std::isfinite(result.T) ? result.T : 0;
+    result.p = std::isfinite(result.p) ? result.p : 0;
+    result.liquidPercent = 0;
+    result.record = {};
+    result.report.clear();
+    result.co1 = result.co2 = {};
+    result.diagnoseEnabled = false;
+    ReportFailure(run, FailureNumber());
 }
 
 void CommonEnd(PointRun& run) {
@@ -145,6 +190,8 @@ void CommonEnd(PointRun& run) {
     result.T = run.T;
     result.p = run.p;
     result.roots = run.context.model.work.Roots;
+    if (!AllFinite(result))
+        VoidRun(run);
 }
 
 } // namespace

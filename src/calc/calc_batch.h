@@ -24,7 +24,7 @@ struct CalculationContext {
 
 // How one run is wanted.
 struct RunOptions {
-    bool suppressReport = false; // numbers only
+    bool suppressReport = false; // numbers only: no report, and labels without text but for a refused input
     bool warn = true;            // allow the hint on the triple point
     // The ambient state of the exergies, where the caller knows it: many points share it.
     const AmbientState* ambient = nullptr;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/input_checks.h"
 
-#include "state/constants.h"
 #include "text/columns.h"
 
 namespace orva {
@@ -67,11 +66,13 @@ bool TakeLiquidDensity(PointRun& run, ResultLabel& label) {
 void ReportFailure(PointRun& run, std::string_view message) {
     run.result.failed = true;
     run.result.reportColour = TextColour::Red;
+    if (!ShowsTexts(run))
+        return;
     AppendLine(run, Spaces(25) + "Meldung von Sub CalcBatch:" + std::string(message));
 }
 
-std::string FailureNumber() {
-    return " (E" + std::to_string(modelFailure) + ")";
+std::string FailureNumber(int number) {
+    return " (E" + std::to_string(number) + ")";
 }
 
 } // namespace orva

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "calc/point_run.h"
+#include "state/constants.h"
 
 namespace orva {
 
@@ -16,7 +17,9 @@ bool TakeLiquidDensity(PointRun& run, ResultLabel& label);
 // A property model failed: the report says so and turns red.
 void ReportFailure(PointRun& run, std::string_view message);
 
-// " (E-1)", the way a failure of a property model is written.
-std::string FailureNumber();
+// " (E-1)", the way a failure of a property model is written; " (E0)" where the model did not fail and its
+// result is too small to be one.
+inline constexpr int noModelFailure = 0;
+std::string FailureNumber(int number = modelFailure);
 
 } // namespace orva

@@ -8,6 +8,7 @@
 #include "text/columns.h"
 #include "thermo/density_correlations.h"
 #include "thermo/heat_capacity.h"
+#include "thermo/rounding.h"
 #include "thermo/vaporisation_enthalpy.h"
 #include "thermo/vapour_pressure.h"
 
@@ -30,7 +31,7 @@ struct FunctionValue {
 // A single point with a slope stands for a small range around its temperature.
 template<class Density> FunctionLimits DensityLimits(const Density& block, float coefficient, float T) {
     if (block.Tlo == 0 && coefficient > missingValue)
-        return {static_cast<int>(T - pointRange), static_cast<int>(T + pointRange)};
+        return {RoundedKelvins(T - pointRange), RoundedKelvins(T + pointRange)};
     return {block.Tlo, block.Thi};
 }
 
@@ -178,9 +179,11 @@ void CalculateDatabaseFunction(PointRun& run) {
         return;
     }
     FillSlots(run, *function, found.value);
+    WarnOutOfRange(run, limits);
+    if (!ShowsTexts(run))
+        return;
     if (result.kind == kindLiquidDensity || result.kind == kindSolidDensity)
         AppendVolumes(run, found.value);
-    WarnOutOfRange(run, limits);
     const auto basis = static_cast<std::size_t>(run.context.options.unitBasis);
     result.par1.text = TemperatureLabel(run);
     result.co1.text = " Berechnung aus der Datenbankfunktion " + std::string(function->label) + " Fu(T)";

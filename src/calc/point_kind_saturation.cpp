@@ -77,21 +77,21 @@ std::string FoundPressure(const PointRun& run) {
 // Without a vapour-pressure equation the data row may bring the coordinate.
 bool FindInDataRow(PointRun& run) {
     PointResult& result = run.result;
-    const NumberStyle style = run.context.style;
     const BatchRow& row = CurrentRow(run);
-    result.co1.text = "keine Dampfdruckgleichung verfügbar";
+    ShowText(run, result.co1, "keine Dampfdruckgleichung verfügbar");
     if (FromTemperature(run)) {
         run.p = row.p;
         if (run.p < missingValue)
             Fail(run, result.co2, "  kein p(LV) aus Datensatz verfügbar");
         else
-            result.co2.text = " p(LV)(aus Datensatz) = " + SmallOrMasked(run, run.p, "####0.0#") + " kPa";
+            ShowText(run, result.co2,
+                     " p(LV)(aus Datensatz) = " + SmallOrMasked(run, run.p, "####0.0#") + " kPa");
     } else {
         run.T = row.T;
         if (run.T < missingValue)
             Fail(run, result.co2, " kein T(LV) verfügbar o. berechenbar");
         else
-            result.co2.text = " T(LV) (aus Datensatz) = " + Format(run.T, "####.0# K", style);
+            ShowText(run, result.co2, " T(LV) (aus Datensatz) = " + Masked(run, run.T, "####.0# K"));
     }
     return !result.failed;
 }
@@ -103,11 +103,11 @@ bool FindPartialCoordinate(PointRun& run) {
         return false;
     PointResult& result = run.result;
     if (FromTemperature(run)) {
-        result.co1.text = "p(LV) aus aktueller Dampfdruckgleichung:";
-        result.co2.text = FoundPressure(run);
+        ShowText(run, result.co1, "p(LV) aus aktueller Dampfdruckgleichung:");
+        ShowText(run, result.co2, FoundPressure(run));
     } else {
-        result.co1.text = "T(LV) aus akt. Dampfdruckgleichung:";
-        result.co2.text = " T(LV) = " + Format(run.T, "####.000 K", run.context.style);
+        ShowText(run, result.co1, "T(LV) aus akt. Dampfdruckgleichung:");
+        ShowText(run, result.co2, " T(LV) = " + Masked(run, run.T, "####.000 K"));
     }
     return true;
 }
@@ -165,9 +165,8 @@ void SolveByCubic(PointRun& run) {
     }
     (fromT ? run.p : run.T) = saturation.value;
     result.rootIndex = 3;
-    result.co1.text = fromT ? "p(LV) aus kubischer EOS" : "T(LV) aus CEOS";
-    result.co2.text =
-        fromT ? FoundPressure(run) : " T(LV) = " + Format(run.T, "###0.000 K", run.context.style);
+    ShowText(run, result.co1, fromT ? "p(LV) aus kubischer EOS" : "T(LV) aus CEOS");
+    ShowText(run, result.co2, fromT ? FoundPressure(run) : " T(LV) = " + Masked(run, run.T, "###0.000 K"));
     TakeSaturationRoots(run);
     FillEosState(run, 3);
     AppendLine(run, Spaces(remarkIndent) + "aus kubischer EOS:");
@@ -180,7 +179,7 @@ void SolveWithoutPriority(PointRun& run) {
     const bool fromT = FromTemperature(run);
     if (!FindByEquation(run))
         return;
-    result.co2.text = fromT ? FoundPressure(run) : "T(LV) = " + Format(run.T, "###0.0# K", run.context.style);
+    ShowText(run, result.co2, fromT ? FoundPressure(run) : "T(LV) = " + Masked(run, run.T, "###0.0# K"));
     result.reportColour = TextColour::Red;
     const std::string rule = Line(softHyphen, ruleWidth);
     AppendLine(run, rule);

@@ -48,9 +48,7 @@ void SolveVirial(PointRun& run, double v) {
     model.work.BVirial = VirialCoefficientB(model, model.selection.eos, run.T);
     if (v > model.work.BVirial) {
         TakeVapour(run, gasConstant * run.T / (v - model.work.BVirial), v);
-        run.result.co2.text = " p = "
-                              + (run.p < 0.01 ? General(static_cast<float>(run.p), run.context.style) + " kPa"
-                                              : Format(run.p, "######0.000 kPa", run.context.style));
+        ShowText(run, run.result.co2, " p = " + SmallOrMasked(run, run.p, "######0.000") + " kPa");
     } else {
         ReportFailure(run, ", keine p-Lösung (v < b)");
     }
@@ -92,22 +90,22 @@ bool SolveSubcritical(PointRun& run, double v) {
     const SaturationResult saturation = EosSaturationPressure(model, run.T);
     run.result.rootIndex = 3;
     if (saturation.failed || saturation.value < missingValue) {
-        ReportFailure(run, FailureNumber());
+        ReportFailure(run, FailureNumber(saturation.failed ? modelFailure : noModelFailure));
         return false;
     }
     const double pLV = saturation.value;
     if (v > model.work.Roots[2] || v < model.work.Roots[0]) {
         if (!(v > model.work.Roots[2] ? SolveVapour(run, v) : SolveLiquid(run, v)))
             return false;
-        run.result.co1.text =
-            "vgl. mit Dampfdruck aus EOS: p(LV) = " + SmallOrMasked(run, pLV, "###0.000") + " kPa";
+        ShowText(run, run.result.co1,
+                 "vgl. mit Dampfdruck aus EOS: p(LV) = " + SmallOrMasked(run, pLV, "###0.000") + " kPa");
         return true;
     }
     run.phases.hasL = run.phases.hasV = true;
     run.p = pLV;
     TakeSaturationRoots(run);
     run.y = (v - run.phases.vL) / (run.phases.vV - run.phases.vL);
-    if (!IsVessel(run)) {
+    if (!IsVessel(run) && ShowsTexts(run)) {
         AppendLine(run, Spaces(22) + std::string(vapourFractionLabel)
                             + Format(run.y, "0.0#######", run.context.style));
         AppendLine(run, "");
@@ -152,8 +150,9 @@ void WriteTable(PointRun& run) {
     if (both && run.T < substance.Tc && run.p < substance.pc)
         AppendGlobalList(run);
     const bool noPressure = run.p == 0 && !run.context.calculation.GlobalMethod;
-    run.result.co2.text = (both ? " Dampfdruck p/kPa = " : " Systemdruck p/kPa = ")
-                          + (noPressure ? " (Fehler)" : SmallOrMasked(run, run.p, "####0.000"));
+    ShowText(run, run.result.co2,
+             (both ? " Dampfdruck p/kPa = " : " Systemdruck p/kPa = ")
+                 + (noPressure ? " (Fehler)" : SmallOrMasked(run, run.p, "####0.000")));
 }
 
 void TakeResult(PointRun& run) {

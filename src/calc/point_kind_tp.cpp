@@ -6,6 +6,7 @@
 #include "calc/report_functions.h"
 #include "state/constants.h"
 #include "text/columns.h"
+#include "thermo/cubic_equation.h"
 #include "thermo/eos_temperature.h"
 #include "thermo/virial_equation.h"
 
@@ -26,6 +27,8 @@ void AppendCriticalPoint(PointRun& run) {
     const SubstanceData& substance = run.context.model.substance;
     const NumberStyle style = run.context.style;
     const double vCrit = run.context.model.eos.vCritCalc;
+    if (!ShowsTexts(run))
+        return;
     AppendLine(run, "kritischer Punkt!");
     AppendLine(run, " T(cr) = " + Format(substance.Tc, "####0.00 K", style));
     AppendLine(run, " p(cr) = " + Format(substance.pc, "#####.00 kPa", style));
@@ -56,18 +59,27 @@ bool SolvePhases(PointRun& run) {
     return true;
 }
 
+// The cubic equation has a branch below the co-volume that describes nothing, yet fulfils p, rho.
+bool BelowCoVolume(const PointRun& run, double T) {
+    SubstanceModel& model = run.context.model;
+    if (model.selection.nonCubic)
+        return false;
+    SetEosCoefficients(model, T);
+    return model.substance.molarMass / run.rho <= model.eos.B;
+}
+
 void SolveAtTP(PointRun& run) {
     SubstanceModel& model = run.context.model;
     if (!GivenPoint(run))
         return;
     if (NearCriticalPoint(run))
         AppendCriticalPoint(run);
-    if (model.selection.nonCubic) {
+    if (model.selection.nonCubic && ShowsTexts(run)) {
         const auto B = static_cast<float>(VirialCoefficientB(model, model.selection.eos, run.T));
         run.result.co2.text = " Virialkoeff. B = " + General(B, run.context.style) + "  m^3/kmol";
     }
     const bool solved = SolvePhases(run);
-    run.result.co1.text = StatusText(run.phases);
+    ShowText(run, run.result.co1, StatusText(run.phases));
     if (solved)
         AssumeEquilibriumAt(run);
 }
@@ -88,7 +100,7 @@ void CalculateFromPRho(PointRun& run) {
     result.par1.text = PressureLabel(run);
     result.par2.text = DensityLabel(run);
     const double T = EosTemperature(run.context.model, run.p, run.rho, false);
-    if (!(T > 0)) {
+    if (!(T > 0) || BelowCoVolume(run, T)) {
         result.failed = true;
         result.co2.colour = TextColour::Blue;
         result.co2.text = " Fehler";
@@ -96,7 +108,7 @@ void CalculateFromPRho(PointRun& run) {
     }
     run.T = T;
     result.co2.reportBackground = true;
-    result.co2.text = " T = " + Format(T, "###0.000 K", run.context.style);
+    ShowText(run, result.co2, ' ' + TemperatureLabel(run));
     if (!SolvePhases(run))
         return;
     AppendDensityTable(run);

@@ -68,7 +68,8 @@ void CalculateVaporisation(PointRun& run) {
         model, selection.vaporization, selection.vaporPressure, VaporisationRequestOf(run));
     if (run.options.warn)
         run.result.messages.insert(run.result.messages.end(), found.warnings.begin(), found.warnings.end());
-    run.result.co1.text = InfoText(found.info);
+    if (ShowsTexts(run))
+        run.result.co1.text = InfoText(found.info);
     if (!found.failed) {
         run.T = found.T;
         run.p = found.p;

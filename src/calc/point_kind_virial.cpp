@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <cmath>
+
 #include "calc/input_checks.h"
 #include "calc/point_kinds.h"
 #include "text/columns.h"
@@ -22,6 +24,10 @@ void CompareVirialCoefficients(PointRun& run) {
     for (int row = virialVanDerWaals; row <= virialPitzerCurl; ++row) {
         DetermineEosParameters(model, row);
         const auto B = static_cast<float>(VirialCoefficientB(model, row, run.T));
+        if (!std::isfinite(B)) {
+            ReportFailure(run, FailureNumber());
+            break;
+        }
         AppendLine(run, run.context.names.EosNames.at(static_cast<std::size_t>(row))
                             + " {B} = " + General(B, run.context.style));
     }

@@ -20,27 +20,37 @@ const BatchRow& CurrentRow(const PointRun& run) {
 }
 
 void AppendLine(PointRun& run, std::string_view line) {
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     run.result.report += line;
     run.result.report += lineEnd;
 }
 
+void ShowText(PointRun& run, ResultLabel& label, std::string_view text) {
+    if (ShowsTexts(run))
+        label.text = text;
+}
+
+std::string Masked(const PointRun& run, double x, std::string_view mask) {
+    return ShowsTexts(run) ? Format(x, mask, run.context.style) : std::string();
+}
+
 std::string SmallOrMasked(const PointRun& run, double x, std::string_view mask) {
-    const NumberStyle style = run.context.style;
-    return x < smallestMasked ? General(static_cast<float>(x), style) : Format(x, mask, style);
+    if (ShowsTexts(run) && x < smallestMasked)
+        return General(static_cast<float>(x), run.context.style);
+    return Masked(run, x, mask);
 }
 
 std::string TemperatureLabel(const PointRun& run) {
-    return "T = " + Format(run.T, "###0.000 K", run.context.style);
+    return Masked(run, run.T, "T = ###0.000 K");
 }
 
 std::string PressureLabel(const PointRun& run) {
-    return "p = " + Format(run.p, "####0.000 kPa", run.context.style);
+    return Masked(run, run.p, "p = ####0.000 kPa");
 }
 
 std::string DensityLabel(const PointRun& run) {
-    return "rho = " + Format(run.rho, "###0.0###", run.context.style) + " kg/m^3";
+    return Masked(run, run.rho, "rho = ###0.0### kg/m^3");
 }
 
 void FillEosState(PointRun& run, int rootIndex) {

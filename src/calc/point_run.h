@@ -26,7 +26,17 @@ const BatchRow& CurrentRow(const PointRun& run);
 // Adds one line to the report, unless the report is suppressed.
 void AppendLine(PointRun& run, std::string_view line);
 
-// The number by the mask, or in general form where it is below 0.01 and the mask would show no digits.
+// False where the run is about its numbers alone; no text is built then.
+inline bool ShowsTexts(const PointRun& run) {
+    return !run.options.suppressReport;
+}
+
+// Writes the text into the label, where texts are shown.
+void ShowText(PointRun& run, ResultLabel& label, std::string_view text);
+
+// The number by the mask; the second in general form where it is below 0.01 and the mask would show no
+// digits. Empty where no texts are shown, and so are the labels below.
+std::string Masked(const PointRun& run, double x, std::string_view mask);
 std::string SmallOrMasked(const PointRun& run, double x, std::string_view mask);
 
 // "T = 300.000 K", "p = 100.000 kPa", "rho = 2.4 kg/m^3": what the labels of the given values show.

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/report_blocks.h"
 
-#include "calc/units.h"
+#include <cmath>
+
 #include "state/constants.h"
 #include "text/columns.h"
+#include "thermo/cubic_equation.h"
 #include "thermo/virial_equation.h"
 
 namespace orva {
@@ -22,6 +24,8 @@ bool HasCubicTrailer(const PointRun& run) {
 }
 
 void AppendCubicParameters(PointRun& run) {
+    // What was computed last may have left the parameters of another temperature.
+    SetEosCoefficients(run.context.model, run.T);
     const EosParameters& eos = run.context.model.eos;
     const auto row = static_cast<std::size_t>(run.context.model.selection.eos);
     const std::string title = "Parameter der generalisierten kub. EOS ("
@@ -38,6 +42,8 @@ void AppendCubicParameters(PointRun& run) {
 void AppendVirialCoefficient(PointRun& run) {
     SubstanceModel& model = run.context.model;
     const auto B = static_cast<float>(VirialCoefficientB(model, model.selection.eos, run.T));
+    if (!std::isfinite(B))
+        return;
     AppendLine(run, "");
     AppendLine(run, "Virialkoeffizient:");
     AppendLine(run, "  B =" + Str(B, run.context.style) + " m^3/kmol");
@@ -53,14 +59,13 @@ std::string ValueFields(const PointRun& run, double liquid, double vapour) {
 }
 
 void AppendDensityTable(PointRun& run) {
-    Options& options = run.context.options;
-    SetUnits(run.context.model, options);
+    const Options& options = run.context.options;
     const PhaseVolumes& phases = run.phases;
     const double displayedL = options.volumeFactor * phases.vL;
     const double displayedV = options.volumeFactor * phases.vV;
     run.result.results[slotVolumeV] = displayedV;
     run.result.results[slotVolumeL] = displayedL;
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     AppendLine(run, FixedField("Dichte", labelWidth)
                         + "rho/ (kg/m^3)  = " + ValueFields(run, phases.rhoL, phases.rhoV));
@@ -74,7 +79,7 @@ void AppendVolumeRow(PointRun& run) {
 }
 
 void AppendParameterTrailer(PointRun& run) {
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     const int kind = run.result.kind;
     const bool cubicKind = !run.context.model.selection.nonCubic;

@@ -190,7 +190,7 @@ void AppendExtendedBlocks(PointRun& run) {
         return;
     }
     Keep(run, tables);
-    if (!run.options.suppressReport) {
+    if (ShowsTexts(run)) {
         const int level = run.context.calculation.ExtendedLevel;
         if (level == 2 || level == 4)
             AppendCoefficients(run, phases, tables);

@@ -5,7 +5,6 @@
 
 #include "calc/input_checks.h"
 #include "calc/report_units.h"
-#include "calc/units.h"
 #include "text/columns.h"
 #include "thermo/caloric_state.h"
 
@@ -107,9 +106,8 @@ bool FillPhase(PointRun& run, std::size_t base, std::size_t soundSlot, double v,
     return true;
 }
 
-// The functions of the phases that exist into their slots; the units of the volumes come first.
+// The functions of the phases that exist into their slots.
 bool FillFunctions(PointRun& run) {
-    SetUnits(run.context.model, run.context.options);
     const AmbientState ambient =
         run.options.ambient != nullptr ? *run.options.ambient : EvaluateAmbientState(run.context.model);
     bool good = true;
@@ -121,6 +119,8 @@ bool FillFunctions(PointRun& run) {
 }
 
 void AppendRows(PointRun& run, std::string_view soundLabel) {
+    if (!ShowsTexts(run))
+        return;
     const auto& results = run.result.results;
     for (const FunctionRow& row : functionRows)
         AppendLine(run, std::string(row.label)
@@ -140,7 +140,7 @@ bool ListsFunctions(int kind) {
 } // namespace
 
 void AppendGlobalList(PointRun& run) {
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
     const SaturationCaloricResult state = SaturationCaloric(run.context.model, run.T);
     if (state.failed)
@@ -169,7 +169,7 @@ void AppendGlobalList(PointRun& run) {
 }
 
 void AppendFunctionRows(PointRun& run) {
-    if (!FillFunctions(run) || run.options.suppressReport)
+    if (!FillFunctions(run) || !ShowsTexts(run))
         return;
     AppendLine(run, "");
     AppendVolumeRow(run);
@@ -185,9 +185,10 @@ void AppendFunctionList(PointRun& run) {
     const PhaseVolumes shown = run.phases;
     run.T = results[slotT];
     run.p = results[slotP];
-    AppendLine(run, Line("*", 68));
+    const std::string rule = Line("*", 68);
+    AppendLine(run, rule);
     AppendLine(run, "                    thermodynamische Funktionen");
-    AppendLine(run, Line("*", 68));
+    AppendLine(run, rule);
     EosPhaseVolumes(run.context.model, run.T, run.p, run.phases);
     if (run.phases.failed) {
         ReportFailure(run, FailureNumber());

@@ -88,9 +88,9 @@ void AppendVaporizationReport(PointRun& run, const VaporisationResult& found) {
         run.result.failed = true;
         return;
     }
-    ShowFoundCoordinate(run);
-    if (run.options.suppressReport)
+    if (!ShowsTexts(run))
         return;
+    ShowFoundCoordinate(run);
     const Options& options = run.context.options;
     const NumberStyle style = run.context.style;
     const int way = run.context.model.selection.vaporization;

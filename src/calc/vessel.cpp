@@ -17,12 +17,12 @@ namespace {
 
 constexpr std::size_t vapourColumn = 55;
 
-// The reference point of the rectilinear diameter that the user settled, else the proposal.
+// The reference point of the rectilinear diameter that the user settled, else the proposal. It stays a
+// proposal: the next calculation that needs a settled point must not find one.
 void SettleReferenceDensity(PointRun& run) {
     CalculationState& calculation = run.context.calculation;
-    if (calculation.ReferenceDensityPointValid)
-        return;
-    TakeReferenceDensity(calculation, AsReferencePoint(ProposeReferenceDensityPoint(run.context.model)));
+    if (!calculation.ReferenceDensityPointValid)
+        calculation.referenceDensity = AsReferencePoint(ProposeReferenceDensityPoint(run.context.model));
 }
 
 // The saturated vapour, or the vapour at the pressure of the virial equation where that is lower.
@@ -106,6 +106,8 @@ bool SolvePartial(PointRun& run) {
 }
 
 void AppendSplit(PointRun& run, double VV) {
+    if (!ShowsTexts(run))
+        return;
     const VesselInput& vessel = run.context.calculation.vessel;
     const NumberStyle style = run.context.style;
     const double M = run.context.model.substance.molarMass;

@@ -193,6 +193,130 @@ TEST_F(Road, AVirialEquationRefusesTheDensityOfTheLiquid) {
     EXPECT_EQ(session.calculation.CalcKind, kindNone);
 }
 
+struct CalculationRoad : Road {
+    void SetUp() override {
+        AcceptButane();
+        ModelChoice choice(session.model, session.names);
+        choice.Open();
+        ASSERT_TRUE(choice.OKModell(dialogs));
+    }
+    void TakeVirialRow() {
+        session.model.selection.eos = virialPitzerCurl;
+        session.model.selection.nonCubic = true;
+    }
+};
+
+TEST_F(CalculationRoad, KindNoneIsTheFirstCalculation) {
+    EXPECT_TRUE(DispatchCalculation(session, kindNone).askForPoint);
+    EXPECT_EQ(session.calculation.CalcKind, kindTRho);
+    EXPECT_EQ(session.calculation.InputContext, 101);
+}
+
+TEST_F(CalculationRoad, AsksWhetherTemperatureAndPressureDescribeEquilibrium) {
+    dialogs.answers = {true, false};
+    const CalculationStart assumed = DispatchCalculation(session, kindTP);
+    ASSERT_EQ(dialogs.asked.size(), 1U);
+    EXPECT_EQ(dialogs.asked[0].title, "T-p-Vorgabe");
+    EXPECT_EQ(dialogs.asked[0].text, "Sollen die Vorgabewerte T, p ein V-L-Phasengleichgewicht beschreiben?\n"
+                                     "ACHTUNG: Bei \"Ja\" wird die Existenz einer L-Phase vorausgesetzt\n"
+                                     "und eine \"Partialberechnung\" durchgeführt.");
+    EXPECT_EQ(dialogs.asked[0].icon, MessageIcon::Exclamation);
+    EXPECT_FALSE(dialogs.asked[0].yesIsDefault);
+    EXPECT_TRUE(assumed.askForMethod);
+    EXPECT_FALSE(assumed.showResult || assumed.askForPoint);
+    EXPECT_TRUE(session.calculation.AssumeEquilibrium);
+    EXPECT_FALSE(DispatchCalculation(session, kindTP).askForMethod);
+    EXPECT_FALSE(session.calculation.AssumeEquilibrium);
+}
+
+TEST_F(CalculationRoad, AsksNothingInBatchModeAndForOtherKinds) {
+    session.calculation.AssumeEquilibrium = true;
+    DispatchCalculation(session, kindFunctions);
+    EXPECT_FALSE(session.calculation.AssumeEquilibrium);
+    session.options.batchMode = true;
+    const CalculationStart start = DispatchCalculation(session, kindTP);
+    EXPECT_TRUE(start.showResult);
+    EXPECT_FALSE(start.askForPoint);
+    EXPECT_TRUE(dialogs.asked.empty());
+}
+
+TEST_F(CalculationRoad, EquilibriumAsksForTheMethodFirst) {
+    for (const int kind : {kindSaturationPressure, kindSaturationTemperature}) {
+        const CalculationStart start = DispatchCalculation(session, kind);
+        EXPECT_TRUE(start.askForMethod) << kind;
+        EXPECT_FALSE(start.showResult || start.askForPoint) << kind;
+        EXPECT_EQ(session.calculation.InputContext, kind + 100);
+        MakeCalculationInput(session).Accept();
+        const CalculationStart after = StartAfterMethod(session);
+        EXPECT_TRUE(after.showResult && after.askForPoint) << kind;
+        EXPECT_FALSE(after.askForMethod) << kind;
+        EXPECT_EQ(session.calculation.InputContext, kind + 100);
+    }
+}
+
+TEST_F(CalculationRoad, VaporisationAsksForTheMethodWithTheReferencePointOnly) {
+    for (const int kind : {kindVaporisationAtT, kindVaporisationAtP})
+        for (std::int16_t way = 1; way <= 7; ++way) {
+            session.model.selection.vaporization = way;
+            EXPECT_EQ(DispatchCalculation(session, kind).askForMethod, way == 6) << kind << ' ' << way;
+        }
+}
+
+TEST_F(CalculationRoad, TheVesselIsEnteredBeforeItsResultIsShown) {
+    const CalculationStart global = DispatchCalculation(session, kindVesselGlobal);
+    EXPECT_TRUE(global.askForPoint);
+    EXPECT_FALSE(global.showResult || global.askForMethod);
+    EXPECT_EQ(session.calculation.InputContext, 33);
+    EXPECT_TRUE(session.calculation.GlobalMethod);
+    const CalculationStart partial = DispatchCalculation(session, kindVesselPartial);
+    EXPECT_TRUE(partial.askForMethod);
+    EXPECT_FALSE(session.calculation.GlobalMethod);
+    MakeCalculationInput(session).Accept();
+    const CalculationStart after = StartAfterMethod(session);
+    EXPECT_TRUE(after.askForPoint);
+    EXPECT_FALSE(after.showResult);
+    EXPECT_EQ(session.calculation.InputContext, 33);
+    EXPECT_FALSE(session.calculation.GlobalMethod);
+}
+
+TEST_F(CalculationRoad, AfterTheMethodABatchRunAsksForNoPoint) {
+    session.options.batchMode = true;
+    DispatchCalculation(session, kindSaturationPressure);
+    const CalculationStart after = StartAfterMethod(session);
+    EXPECT_TRUE(after.showResult);
+    EXPECT_FALSE(after.askForPoint);
+}
+
+TEST_F(CalculationRoad, EveryDatabaseFunctionOpensResultAndInput) {
+    for (int kind = kindLiquidDensity; kind <= kindSolidDensity; ++kind) {
+        const CalculationStart start = DispatchCalculation(session, kind);
+        EXPECT_TRUE(start.showResult && start.askForPoint) << kind;
+        EXPECT_EQ(session.calculation.InputContext, kind + 100);
+    }
+}
+
+TEST_F(CalculationRoad, AVirialRowIsNeverTreatedGlobally) {
+    TakeVirialRow();
+    for (const int kind : {kindTRho, kindTP, kindSaturationPressure, kindFunctions}) {
+        EXPECT_TRUE(SetCalculation(session, kind, false)) << kind;
+        EXPECT_FALSE(session.calculation.GlobalMethod) << kind;
+    }
+    EXPECT_FALSE(SetCalculation(session, kindTRhoLiquid, false));
+    EXPECT_EQ(session.calculation.CalcKind, kindNone);
+}
+
+TEST_F(CalculationRoad, OnlyTemperatureAndPressureCanBeAssumedToDescribeEquilibrium) {
+    EXPECT_TRUE(SetCalculation(session, kindTP, true));
+    EXPECT_TRUE(session.calculation.AssumeEquilibrium);
+    EXPECT_TRUE(SetCalculation(session, kindFunctions, true));
+    EXPECT_FALSE(session.calculation.AssumeEquilibrium);
+}
+
+TEST_F(CalculationRoad, AKindThatDoesNotExistOpensNothing) {
+    EXPECT_FALSE(DispatchCalculation(session, 25).Opens());
+    EXPECT_FALSE(DispatchCalculation(session, -3).Opens());
+}
+
 TEST_F(Road, TheCalculationMenuHintsAtAMissingSeriesInBatchMode) {
     session.options.batchMode = true;
     OpenCalculationMenu(session);

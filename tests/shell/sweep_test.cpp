@@ -7,8 +7,7 @@
 
 #include "helpers/dvopar/result_text.h"
 #include "helpers/dvopar/vo_halme_fit.h"
-#include "shell/road.h"
-#include "support/scripted_dialogs.h"
+#include "master_database.h"
 #include "text/text_file.h"
 #include "thermo/caloric_state.h"
 #include "thermo/cubic_equation.h"
@@ -22,50 +21,6 @@
 
 namespace orva::test {
 namespace {
-
-// The folder that the build made.
-class BuiltMachine : public Machine {
-public:
-    explicit BuiltMachine(std::filesystem::path ownFolder = ORVA_INSTALLATION_FOLDER)
-        : writable(std::move(ownFolder)) {}
-    std::filesystem::path InstallationFolder() const override { return ORVA_INSTALLATION_FOLDER; }
-    std::filesystem::path WritableFolder() const override { return writable; }
-    bool DecimalComma() const override { return false; }
-    std::chrono::year_month_day Today() const override { return std::chrono::sys_days(); }
-    std::string ShortDate() const override { return "01.01.1970"; }
-
-private:
-    std::filesystem::path writable;
-};
-
-struct MasterDatabase : testing::Test {
-    BuiltMachine machine;
-    ScriptedDialogs dialogs;
-    Session session{machine, dialogs};
-
-    void SetUp() override { ASSERT_TRUE(OpenDatabase(session, "ORVA.Q05")); }
-
-    // Calls `check` for every substance and every row that its data allow, with the constants determined. The
-    // Vo / Halme rows, whose constants are fitted, have tests of their own below.
-    template<class Check> void ForEveryModel(Check check) {
-        for (int index = 1; index <= session.state.substanceCount; ++index) {
-            if (!AcceptSubstance(session, index))
-                continue;
-            ModelChoice choice = MakeModelChoice(session);
-            choice.Open();
-            for (std::size_t row = 0; row < choice.EOSKombi.rows.size(); ++row) {
-                choice.SelectEos(static_cast<int>(row));
-                ASSERT_TRUE(choice.OKModell(dialogs));
-                if (session.model.selection.eos == virialByHand) {
-                    session.model.eos.b0 = 0.1;
-                    session.model.eos.nB = 1e4;
-                    session.model.eos.nF = 1.5;
-                }
-                check(session.model);
-            }
-        }
-    }
-};
 
 // The fits of the Vo / Halme rows take most of the time, those of the second row twice as much: every so many
 // substances stand for all. On the saturation line, a step in per cent of T(cr).
