@@ -163,16 +163,20 @@ std::string IsoCalculation::FunctionLabel() const {
     return isoFunctionLabels[static_cast<std::size_t>(IsoFunction())];
 }
 
-std::string IsoCalculation::FunctionUnit() const {
-    if (IsoFunction() == 0)
+std::string IsoCalculation::FunctionUnit(int function) const {
+    if (function == 0)
         return context.options.vUnit;
     constexpr UnitQuantity quantities[] = {UnitQuantity::H, UnitQuantity::S, UnitQuantity::G, UnitQuantity::U,
                                            UnitQuantity::A, UnitQuantity::E, UnitQuantity::E};
-    std::string_view text = UnitText(quantities[IsoFunction() - 1], context.options.unitBasis);
+    std::string_view text = UnitText(quantities[function - 1], context.options.unitBasis);
     text = Trim(text.substr(text.find('/') + 1)); // behind the letter of the quantity
     if (text.starts_with('(') && text.ends_with(')'))
         text = text.substr(1, text.size() - 2);
     return std::string(text);
+}
+
+std::string IsoCalculation::CurrentValue(int function) const {
+    return General(static_cast<float>(current.results[IsoSlot(function, IsoPhase())]), context.style);
 }
 
 std::optional<Message> IsoCalculation::cmdCalc() {

@@ -51,9 +51,11 @@ public:
 
     // "p/kPa = " or "  T/K =", beside the value that stays fixed.
     std::string GivenLabel() const;
-    // "S  = " and the unit of the chosen function, "kJ/kmol/K".
+    // "S  = ", of the chosen function.
     std::string FunctionLabel() const;
-    std::string FunctionUnit() const;
+    // "kJ/kmol/K", and the value at the working point in the chosen phase as the reports write it.
+    std::string FunctionUnit(int function) const;
+    std::string CurrentValue(int function) const;
 
     // The texts of the fields.
     std::string txtTpVorgabe, txtFuConst, txtTpCalc;

@@ -68,6 +68,8 @@ void FillSection(VesselPicture& picture) {
 
 void WriteLevel(const VesselResult& vessel, NumberStyle style, VesselPicture& picture) {
     picture.levelText = "Füllstand " + Format(vessel.fillPercent, "##0.0#", style) + " % (Vol.-anteil)";
+    if (picture.HasLevel())
+        picture.heightText = Format(picture.levelHeight / wholePercent, "0.00 d", style);
     if (picture.full)
         picture.phaseText = "  L-Phase";
     else if (vessel.fillPercent == 0)

@@ -32,6 +32,7 @@ struct VesselPicture {
     std::string levelText;    // "Füllstand 42.0 % (Vol.-anteil)", "  überkritisch"
     std::string phaseText;    // "  V-Phase", "  L-Phase", or nothing
     std::string pressureText; // of the label `labP`
+    std::string heightText;   // "0.36 d", the height of a level as a share of the diameter
     std::string noteText;     // "s. Hilfe 'Behälter'"
     VesselColour pressureGround = VesselColour::Black;
     VesselColour pressureColour = VesselColour::LightYellow;

@@ -168,7 +168,7 @@ TEST_F(IsoWindow, StartsWithTheChoicesOfTheProgramAndTheStartPoint) {
     EXPECT_EQ(iso.IsoFunction(), 2);
     EXPECT_EQ(iso.GivenLabel(), "p/kPa = ");
     EXPECT_EQ(iso.FunctionLabel(), "S  = ");
-    EXPECT_EQ(iso.FunctionUnit(), "kJ/kmol/K");
+    EXPECT_EQ(iso.FunctionUnit(2), "kJ/kmol/K");
     EXPECT_EQ(iso.txtTpVorgabe, "500");
     EXPECT_TRUE(Shows(iso.txtFuConst, Value(300, 500, 2, 1)));
     EXPECT_EQ(iso.txtTpCalc, "");
@@ -190,8 +190,9 @@ TEST_F(IsoWindow, ChoicesSettleLabelsAndValues) {
     for (int function = 0; function < isoFunctionCount; ++function) {
         iso.OptIsoFu(function);
         EXPECT_EQ(iso.FunctionLabel(), labels[function]);
-        EXPECT_EQ(iso.FunctionUnit(), units[function]);
+        EXPECT_EQ(iso.FunctionUnit(function), units[function]);
         EXPECT_TRUE(Shows(iso.txtFuConst, Value(300, 100, function, 0))) << function;
+        EXPECT_EQ(iso.CurrentValue(function), General(static_cast<float>(Value(300, 100, function, 0))));
         EXPECT_THAT(iso.txtFuConst, testing::Not(testing::HasSubstr("E")));
     }
     iso.optIsoTp(1);
@@ -292,7 +293,7 @@ TEST_F(IsoWindow, SearchesInDisplayUnits) {
     c.options.unitBasis = 3;
     Start(400, 100);
     IsoCalculation iso = Open();
-    EXPECT_EQ(iso.FunctionUnit(), "kJ/(kg K)");
+    EXPECT_EQ(iso.FunctionUnit(2), "kJ/(kg K)");
     iso.txtTpVorgabe = "150";
     iso.cmdCalc();
     const double T = Row().T;

@@ -69,6 +69,9 @@ TEST(VesselPicture, LevelHoldsItsShareOfTheCircle) {
         EXPECT_TRUE(picture.HasLevel()) << percent;
     }
     EXPECT_NEAR(Picture(Filled(50)).levelHeight, 50, 0.01);
+    EXPECT_EQ(Picture(Filled(50)).heightText, "0.50 d");
+    EXPECT_EQ(Picture(Filled(50), kindVesselGlobal, {','}).heightText, "0,50 d");
+    EXPECT_EQ(Picture(Filled(0)).heightText + Picture(Filled(100)).heightText, "");
 }
 
 TEST(VesselPicture, AboveHalfTheEmptyShareIsDrawnFromTheTop) {
