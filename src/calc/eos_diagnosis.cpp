@@ -18,7 +18,8 @@ constexpr double sameRoot = 1e-4;   // relative; T stands in the record as a sin
 constexpr int curvePoints = 400, lobePoints = 120;
 constexpr double nearCoVolume = 1.005; // where the curve begins, in co-volumes
 constexpr double besideRoots = 3;      // factor that the window reaches beyond the roots
-constexpr double deepestLoop = 3;      // depth below the isobar that is shown, in heights above it
+constexpr double wholeLoop = 7;        // depth below the isobar, in heights above it, that is shown whole
+constexpr double cutLoop = 3;          // and what is shown of a deeper one
 constexpr double margin = 0.15;        // of the shown height, above and below the loop
 constexpr double singleRootHeight = 2; // of the pressure, where there is no loop
 
@@ -94,7 +95,8 @@ std::string NameOf(const SubstanceModel& model, const NameTables& names) {
 void FrameLoop(const EosDiagnosis& diagnosis, const SpinodalPoints& spinodal, IsothermPicture& picture) {
     const double top = std::max(spinodal.p[1], diagnosis.p);
     const double above = std::max(top - diagnosis.p, margin * std::abs(top));
-    const double bottom = std::max(spinodal.p[0], diagnosis.p - deepestLoop * above);
+    const double depth = diagnosis.p - spinodal.p[0];
+    const double bottom = diagnosis.p - (depth <= wholeLoop * above ? depth : cutLoop * above);
     const double space = margin * (top - bottom);
     picture.pMax = top + space;
     picture.pMin = bottom - space;

@@ -62,7 +62,7 @@ TEST_F(DiagnosisWindow, NamesThreeRootsAndTheirStability) {
     EXPECT_EQ(Text(form, "lblStab(3)"), "(stabil, V-Phase)");
     EXPECT_TRUE(Shown(form, "lblA_x") && Shown(form, "lblA_u") && Shown(form, "lblA_o"));
     EXPECT_THAT(FromQt(Text(form, "lblA_o")), testing::MatchesRegex("A\\(o\\) = .* kJ/kmol"));
-    EXPECT_EQ(form.height(), 8000 * form.logicalDpiY() / 1440);
+    EXPECT_EQ(form.height(), qRound(8000 / 1440.0 * form.logicalDpiY()));
 }
 
 TEST_F(DiagnosisWindow, DrawsTheRootsOnTheIsobarAndBothAreas) {
@@ -96,7 +96,7 @@ TEST_F(DiagnosisWindow, OneRootIsASinglePoint) {
         EXPECT_FALSE(Shown(form, name)) << name;
     EXPECT_EQ(Markers(form).size(), 1);
     EXPECT_EQ(Fills(form), 0);
-    EXPECT_EQ(form.height(), 5600 * form.logicalDpiY() / 1440);
+    EXPECT_EQ(form.height(), qRound(5600 / 1440.0 * form.logicalDpiY()));
 }
 
 TEST_F(DiagnosisWindow, FollowsTheNextCalculation) {

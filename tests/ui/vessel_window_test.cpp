@@ -40,8 +40,8 @@ TEST_F(VesselWindow, ShowsTheLabelsOfBothPhases) {
     EXPECT_EQ(Text(form, "labLevel"), "Füllstand 32.64 % (Vol.-anteil)");
     EXPECT_EQ(Text(form, "labPhase"), "");
     EXPECT_EQ(Ground(form), ColourOf(VesselColour::Black, form.palette()));
-    EXPECT_EQ(form.width(), 3760 * form.logicalDpiX() / 1440);
-    EXPECT_EQ(form.height(), 5200 * form.logicalDpiY() / 1440);
+    EXPECT_EQ(form.width(), qRound(3760 / 1440.0 * form.logicalDpiX()));
+    EXPECT_EQ(form.height(), qRound(5200 / 1440.0 * form.logicalDpiY()));
 }
 
 TEST_F(VesselWindow, DrawsTheLiquidUpToItsLevel) {

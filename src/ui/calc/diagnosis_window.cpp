@@ -62,7 +62,7 @@ QLabel* frmCEOSDiagnose::AddLabel(const QString& name, bool fixedPitch) {
 }
 
 QGroupBox* frmCEOSDiagnose::LabelFrame() {
-    auto* frame = new QGroupBox(QStringLiteral("Lösungen der kubischen Gleichung"), this);
+    auto* frame = new QGroupBox(QStringLiteral("Lösungen v/(m^3/kmol) der kubischen Gleichung"), this);
     frame->setObjectName(QStringLiteral("Frame1"));
     auto* column = new QVBoxLayout(frame);
     auto* head = new QFormLayout;

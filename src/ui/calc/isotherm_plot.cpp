@@ -80,10 +80,11 @@ void AddLobe(QCustomPlot& plot, const std::vector<IsothermPoint>& lobe, double p
         return;
     auto* curve = plot.addGraph();
     auto* base = plot.addGraph();
-    double farthest = 0;
+    IsothermPoint farthest{lobe.front().v, p};
     for (const IsothermPoint& point : lobe) {
         curve->addData(point.v, point.p);
-        farthest = std::abs(point.p - p) > std::abs(farthest) ? point.p - p : farthest;
+        if (std::abs(point.p - p) > std::abs(farthest.p - p))
+            farthest = point;
     }
     base->addData(lobe.front().v, p);
     base->addData(lobe.back().v, p);
@@ -97,10 +98,12 @@ void AddLobe(QCustomPlot& plot, const std::vector<IsothermPoint>& lobe, double p
     curve->setBrush(colour);
     curve->setChannelFillGraph(base);
     const QCPRange range = plot.yAxis->range();
-    const double edge = std::clamp(p + farthest, range.lower, range.upper);
-    if (std::abs(edge - p) > smallestLobe * range.size())
-        AddText(plot, name, std::sqrt(lobe.front().v * lobe.back().v), p + 0.4 * (edge - p), Qt::AlignCenter,
-                ink, style, true);
+    const double edge = std::clamp(farthest.p, range.lower, range.upper);
+    if (std::abs(edge - p) <= smallestLobe * range.size())
+        return;
+    // The dip of a cold liquid lies close to its steep branch; its name stands on the open side.
+    const double v = farthest.p < p ? std::sqrt(farthest.v * lobe.back().v) : farthest.v;
+    AddText(plot, name, v, p + 0.35 * (edge - p), Qt::AlignCenter, ink, style, true);
 }
 
 void AddIsobar(QCustomPlot& plot, double p, const PlotStyle& style) {

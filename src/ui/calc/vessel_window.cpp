@@ -112,9 +112,9 @@ void VesselSheet::PlaceLabels() {
             room = QFontMetricsF(font).horizontalAdvance(labP->text().trimmed()) + 8 * unit;
             left = (width() - room) / 2;
         }
-        place.label->setGeometry(
-            QRectF(left, top, room, std::max(place.height * unit, QFontMetricsF(font).height()))
-                .toAlignedRect());
+        // Both edges are rounded alike, so that neighbours touch but never overlap.
+        const int first = qRound(top), last = qRound(top + place.height * unit);
+        place.label->setGeometry(qRound(left), first, qRound(room), last - first);
     }
 }
 
@@ -137,9 +137,9 @@ void VesselSheet::paintEvent(QPaintEvent*) {
     painter.setPen(MutedColour(palette()));
     const double y = vessel.bottom() - vessel.height() * picture.levelHeight / 100;
     // Below the mark, but not below the vessel.
-    const double top = std::min(y + unit, vessel.bottom() - 6 * unit);
-    painter.drawText(QRectF(vessel.right() + unit, top, heightTextWidth * unit, 6 * unit), Qt::AlignLeft,
-                     ToQt(picture.heightText));
+    const double top = std::min(y + 1.4 * unit, vessel.bottom() - 6 * unit);
+    painter.drawText(QRectF(vessel.right() + unit, top, heightTextWidth * unit, 6 * unit),
+                     Qt::AlignLeft | Qt::AlignTop, ToQt(picture.heightText));
 }
 
 void VesselSheet::resizeEvent(QResizeEvent* event) {
