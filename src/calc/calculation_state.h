@@ -72,6 +72,17 @@ struct VesselResult {
     std::string note; // "ERROR1", "ERROR2", "ERROR3" or empty
 };
 
+// What the function inversion keeps while the program runs.
+struct IsoState {
+    int IsoVariable = 0; // 0 T at given p, 1 p at given T
+    int IsoPhase = 1;    // 0 vapour, 1 liquid
+    int IsoFunction = 2; // v, h, s, g, u, a, e of h, e of u
+    // Row 0 was moved from the point that the input window gave to a working point of the inversion.
+    bool moved = false;
+    double givenT = 0, givenP = 0;     // K, kPa: the point of the input window
+    double workingT = 0, workingP = 0; // K, kPa: where row 0 was moved to
+};
+
 // The calculation in force and how it treats equilibrium.
 struct CalculationState {
     std::int16_t CalcKind = kindNone;
@@ -90,6 +101,7 @@ struct CalculationState {
     std::string CurrentModelText; // the models of the last result, as list and protocol name them
     VesselInput vessel;
     VesselResult vesselResult;
+    IsoState iso;
 };
 
 } // namespace orva

@@ -164,6 +164,7 @@ bool PointInput::AcceptPoint(const std::array<double, 4>& values) {
     row.p = values[1];
     row.rhoV = static_cast<float>(density);
     row.rhoL = static_cast<float>(values[3]);
+    records.calculation.iso.moved = false;
     return true;
 }
 

@@ -16,6 +16,8 @@ Answer FindCommand(Workspace& workspace, const std::string& text);
 Answer ShowCommand(Workspace& workspace, const std::string& substance);
 Answer ModelsCommand(Workspace& workspace, const std::string& substance);
 Answer PointCommand(Workspace& workspace, const Request& request);
+Answer VesselCommand(Workspace& workspace, const Request& request);
+Answer InverseCommand(Workspace& workspace, const Request& request);
 Answer CurveCommand(Workspace& workspace, const Request& request, Drawing& drawing);
 
 } // namespace orva

@@ -14,9 +14,11 @@ constexpr unsigned find = CommandBit(Command::Find);
 constexpr unsigned show = CommandBit(Command::Show);
 constexpr unsigned models = CommandBit(Command::Models);
 constexpr unsigned point = CommandBit(Command::Point);
+constexpr unsigned vessel = CommandBit(Command::Vessel);
+constexpr unsigned inverse = CommandBit(Command::Inverse);
 constexpr unsigned curve = CommandBit(Command::Curve);
 constexpr unsigned run = CommandBit(Command::Run);
-constexpr unsigned calculations = point | curve;
+constexpr unsigned calculations = point | vessel | inverse | curve;
 
 constexpr double anyNumber = std::numeric_limits<double>::max();
 constexpr double anySingle = std::numeric_limits<float>::max();
@@ -35,6 +37,20 @@ int Whole(V value) {
 }
 double First(V value) {
     return value.numbers.front();
+}
+
+// In the order of their slots among the results.
+constexpr std::string_view functionNames = "v|h|s|g|u|a|eH|eU";
+
+int ChoiceIndex(std::string_view choices, std::string_view word) {
+    int index = 0;
+    for (; !choices.empty(); ++index) {
+        const std::size_t bar = choices.find('|');
+        if (choices.substr(0, bar) == word)
+            break;
+        choices.remove_prefix(bar == choices.npos ? choices.size() : bar + 1);
+    }
+    return index;
 }
 
 // Shorthands for the rows below.
@@ -71,7 +87,7 @@ constexpr OptionRow LineOnly(OptionRow row) {
 }
 
 constexpr OptionRow rows[] = {
-    Word(ValueKind::Text, "database", list | find | show | models | point | curve | run, "",
+    Word(ValueKind::Text, "database", list | find | show | models | calculations | run, "",
          "database file; ORVA.Q05 of the installation folder if it is not given",
          [](Request& r, V v) { r.database = v.text; }),
     Positional(Word(ValueKind::Text, "text", find, "", "name, CAS number, #index or serial number",
@@ -98,12 +114,20 @@ constexpr OptionRow rows[] = {
         [](Request& r, V v) { r.point.rhoLiquid = First(v); }, anySingle),
     Number("mass", point, "mass in the vessel, kg", [](Request& r, V v) { r.point.mass = First(v); }),
     Number("volume", point, "volume of the vessel, m^3", [](Request& r, V v) { r.point.volume = First(v); }),
-    Word(ValueKind::Choice, "method", point, "global|partial", "where equilibrium and densities come from",
+    Required(Number(
+        "T", vessel, "temperature, K", [](Request& r, V v) { r.point.T = First(v); }, anySingle)),
+    Required(Number(
+        "mass", vessel, "mass in the vessel, kg", [](Request& r, V v) { r.point.mass = First(v); },
+        anySingle)),
+    Required(Number(
+        "volume", vessel, "volume of the vessel, m^3", [](Request& r, V v) { r.point.volume = First(v); },
+        anySingle)),
+    Word(ValueKind::Choice, "method", point | vessel, "global|partial", "where equilibrium and densities come from",
          [](Request& r, V v) { r.point.method = v.text; }),
-    Word(ValueKind::Choice, "liquid-density", point, "database|benson",
+    Word(ValueKind::Choice, "liquid-density", point | vessel, "database|benson",
          "liquid density of the partial method", [](Request& r, V v) { r.point.liquidDensity = v.text; }),
     Numbers(
-        ValueKind::WordOrList, "reference-density", point, 4, "T,p,rhoL,rhoV of the second reference point",
+        ValueKind::WordOrList, "reference-density", point | vessel, 4, "T,p,rhoL,rhoV of the second reference point",
         [](Request& r, V v) {
             r.point.referenceDensityProposal = !v.text.empty();
             if (v.text.empty())
@@ -112,9 +136,25 @@ constexpr OptionRow rows[] = {
         anySingle, "proposal"),
     Word(ValueKind::Flag, "assume-equilibrium", point, "", "T and p describe vapour-liquid equilibrium",
          [](Request& r, V v) { r.point.assumeEquilibrium = v.on; }),
-    LineOnly(Word(ValueKind::Choice, "format", point, "json|text",
+    LineOnly(Word(ValueKind::Choice, "format", point | vessel | inverse, "json|text",
                   "text prints the report as the window shows it",
                   [](Request& r, V v) { r.textFormat = v.text == "text"; })),
+
+    Required(Word(ValueKind::Choice, "function", inverse, functionNames, "function that takes the value",
+                  [](Request& r, V v) {
+                      r.inverse.functionName = v.text;
+                      r.inverse.function = ChoiceIndex(functionNames, v.text);
+                  })),
+    Required(Number("value", inverse, "the value, in display units",
+                    [](Request& r, V v) { r.inverse.value = First(v); })),
+    Required(Word(ValueKind::Choice, "solve-for", inverse, "T|p", "the unknown; the other one is given",
+                  [](Request& r, V v) { r.inverse.solveForT = v.text == "T"; })),
+    Required(Word(ValueKind::Choice, "phase", inverse, "V|L", "phase whose function takes the value",
+                  [](Request& r, V v) { r.inverse.phase = v.text == "V" ? 0 : 1; })),
+    Required(Number("T", inverse, "temperature, K; the start of the search if it is the unknown",
+                    [](Request& r, V v) { r.point.T = First(v); })),
+    Required(Number("p", inverse, "pressure, kPa; the start of the search if it is the unknown",
+                    [](Request& r, V v) { r.point.p = First(v); })),
 
     Required(Integer("type", curve, 1, std::numeric_limits<std::int16_t>::max(), "number of the diagram type",
                      [](Request& r, V v) { r.curve.type = Whole(v); })),
@@ -185,6 +225,8 @@ constexpr CliCommandRow commands[] = {
     {Command::Show, "show", "all data of a substance"},
     {Command::Models, "models", "the models that a substance allows, and the preset choice"},
     {Command::Point, "point", "one state point"},
+    {Command::Vessel, "vessel", "pressure and filling of a closed vessel"},
+    {Command::Inverse, "inverse", "the T or p at which a thermodynamic function takes a value"},
     {Command::Curve, "curve", "the points of a curve, and the diagram as an image"},
     {Command::Run, "run", "answers a file of requests, one a line"},
 };

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "calc/report_text.h"
 #include "cli/commands.h"
 #include "cli/json_writer.h"
-#include "shell/road.h"
+#include "cli/point_steps.h"
 
 namespace orva {
 
@@ -41,87 +40,22 @@ std::string ResultJson(const PointResult& result, const std::vector<Message>& me
     return text;
 }
 
-// What the window shows in red, in one line.
-std::string FailureText(const PointResult& result) {
-    for (const ResultLabel* label : {&result.par1, &result.par2, &result.co1, &result.co2})
-        if (label->colour == TextColour::Red)
-            return OneLine(label->text);
-    return result.report.empty() ? "no result" : OneLine(result.report);
-}
-
-// The four labels, a line each, and the report.
-std::string ResultText(const PointResult& result) {
-    std::string text;
-    for (const ResultLabel* label : {&result.par1, &result.par2, &result.co1, &result.co2})
-        text += label->text + '\n';
-    for (const char c : result.report)
-        if (c != '\r')
-            text += c;
-    return WithVisibleRules(text);
-}
-
-void TakeGivenValues(const PointOptions& point, BatchRow& row) {
-    row = {};
-    row.T = point.T.value_or(0);
-    row.p = point.p.value_or(0);
-    row.rhoV = static_cast<float>(point.rho.value_or(0));
-    row.rhoL = static_cast<float>(point.rhoLiquid.value_or(0));
-}
-
-void TakeVesselInput(const PointOptions& point, VesselInput& vessel) {
-    vessel.m = static_cast<float>(point.mass.value_or(0));
-    vessel.V = static_cast<float>(point.volume.value_or(0));
-    vessel.T = static_cast<float>(point.T.value_or(0));
-}
-
-// What the window would settle in `frmCalcIn`, with its own choices where nothing is given.
-void SettleMethod(const PointOptions& point, Session& session) {
-    CalculationState& calculation = session.calculation;
-    const int kind = calculation.CalcKind;
-    const bool settles = calculation.AssumeEquilibrium || kind == kindVesselPartial
-                         || (kind >= kindSaturationPressure && kind <= kindVaporisationAtP);
-    if (settles) {
-        CalculationInput input = MakeCalculationInput(session);
-        if (point.liquidDensity)
-            calculation.BensonLiquid = *point.liquidDensity == "benson";
-        if (point.referenceDensity) {
-            const auto& [T, p, rhoL, rhoV] = *point.referenceDensity;
-            calculation.referenceDensity = {static_cast<float>(T), static_cast<float>(p),
-                                            static_cast<float>(rhoL), static_cast<float>(rhoV)};
-        }
-        input.Accept();
-    }
-    if (point.method)
-        calculation.GlobalMethod = *point.method == "global";
-}
-
 } // namespace
 
 Answer PointCommand(Workspace& workspace, const Request& request) {
     if (const std::optional<Failure> failure = workspace.Prepare(request.context))
         return AnswerFor(*failure);
+    if (const std::optional<Failure> failure = StartPoint(workspace, request.point))
+        return AnswerFor(*failure);
     Session& session = workspace.Records();
-    if (!SetCalculation(session, request.point.kind, request.point.assumeEquilibrium))
-        return AnswerFor(
-            FailureFrom(exitCalculationFailed, workspace.Messages(), "the calculation is not possible"));
-    SettleMethod(request.point, session);
-    TakeGivenValues(request.point, session.batch.rows.front());
-    TakeVesselInput(request.point, session.calculation.vessel);
     CalculationContext context = session.Calculation();
     const PointResult result =
         CalcBatch(context, session.calculation.CalcKind, session.calculation.CurrentDataSet);
-
-    Answer answer;
-    answer.messages = workspace.Messages();
-    answer.messages.insert(answer.messages.end(), result.messages.begin(), result.messages.end());
+    Answer answer = AnswerOf(workspace, result);
     if (request.textFormat)
         answer.text = ResultText(result);
     else
         answer.jsonText = ResultJson(result, answer.messages);
-    if (result.failed) {
-        answer.exitStatus = exitCalculationFailed;
-        answer.error = "the calculation failed: " + FailureText(result);
-    }
     return answer;
 }
 

@@ -30,6 +30,10 @@ Answer Program::Execute(const Request& request) {
         return ModelsCommand(workspace, request.context.substance);
     case Command::Point:
         return PointCommand(workspace, request);
+    case Command::Vessel:
+        return VesselCommand(workspace, request);
+    case Command::Inverse:
+        return InverseCommand(workspace, request);
     case Command::Curve:
         return CurveCommand(workspace, request, drawing);
     case Command::Run:

@@ -9,7 +9,7 @@
 
 namespace orva {
 
-enum class Command : unsigned char { List, Find, Show, Models, Point, Curve, Run };
+enum class Command : unsigned char { List, Find, Show, Models, Point, Vessel, Inverse, Curve, Run };
 
 // The choices of the model window; what is not given stays as the window presets it.
 struct ModelOptions {
@@ -65,6 +65,15 @@ struct PointOptions {
     bool assumeEquilibrium = false;
 };
 
+// The inversion of a function: the value it has to take, in display units, and where the search starts.
+struct InverseOptions {
+    std::string functionName; // "v", "h", "s", "g", "u", "a", "eH", "eU"
+    int function = 0;         // its number in this order
+    double value = 0;
+    bool solveForT = true; // else for p
+    int phase = 0;         // 0 vapour, 1 liquid
+};
+
 struct CurveOptions {
     int type = 0;
     std::vector<double> T;                       // K; more than one draws several curves
@@ -82,7 +91,8 @@ struct Request {
     std::string database; // empty: the one of the installation folder
     std::string text;     // what `find` looks for
     ContextOptions context;
-    PointOptions point;
+    PointOptions point; // of `vessel` and `inverse` too
+    InverseOptions inverse;
     CurveOptions curve;
     bool textFormat = false;
     std::string requestsFile; // of `run`

@@ -130,11 +130,34 @@ std::string CheckCurve(const CurveOptions& curve) {
     return {};
 }
 
+// What the window refuses as an input.
+std::string CheckAboveZero(const PointOptions& point) {
+    const struct {
+        const std::optional<double>& value;
+        std::string_view option;
+    } values[] = {{point.T, "T"}, {point.p, "p"}, {point.mass, "mass"}, {point.volume, "volume"}};
+    for (const auto& [value, option] : values)
+        if (value && !(*value > 0))
+            return "option " + std::string(option) + ": the value must be above 0";
+    return {};
+}
+
+std::string CheckVessel(const PointOptions& point) {
+    const bool densities = point.liquidDensity || point.referenceDensity || point.referenceDensityProposal;
+    if (point.method == "global" && densities)
+        return "options liquid-density and reference-density belong to the partial method";
+    return CheckAboveZero(point);
+}
+
 } // namespace
 
 std::string CheckRequest(const Request& request) {
     if (request.command == Command::Point)
         return CheckPoint(request.point, request.context.display);
+    if (request.command == Command::Vessel)
+        return CheckVessel(request.point);
+    if (request.command == Command::Inverse)
+        return CheckAboveZero(request.point);
     if (request.command == Command::Curve)
         return CheckCurve(request.curve);
     return {};

@@ -166,26 +166,32 @@ TEST_F(CliProgram, AFailedPointHasExitStatusOneAndItsAnswer) {
 }
 
 TEST_F(CliProgram, RefusesWrongUsageInOneLine) {
-    for (const char* arguments : {"",
-                                  "frobnicate",
-                                  "point",
-                                  "point --substance n-Butan --kind 3 --T 300",
-                                  "list --nonsense",
-                                  "point --substance n-Butan --kind 12 --T 300 --p 1",
-                                  "curve --substance n-Butan --type 32000",
-                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --T 310",
-                                  "point --substance n-Butan --kind 3 --T x --p 1",
-                                  "curve --substance n-Butan --type 1 --window 1,0,0,1",
-                                  "curve --substance n-Butan --type 1 --mode sideways",
-                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --virial 1,2,3",
-                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 10",
-                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 9 --format text",
-                                  "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 9 --format json",
-                                  "point --substance n-Butan --kind 6 --T 300 --extended 2",
-                                  "point --substance n-Butan --kind 8 --T 300 --p 1 --function-list",
-                                  "curve --substance n-Butan --type 1 --extended 2",
-                                  "show",
-                                  "run"}) {
+    for (const char* arguments :
+         {"",
+          "frobnicate",
+          "point",
+          "point --substance n-Butan --kind 3 --T 300",
+          "list --nonsense",
+          "point --substance n-Butan --kind 12 --T 300 --p 1",
+          "curve --substance n-Butan --type 32000",
+          "point --substance n-Butan --kind 3 --T 300 --p 1 --T 310",
+          "point --substance n-Butan --kind 3 --T x --p 1",
+          "curve --substance n-Butan --type 1 --window 1,0,0,1",
+          "curve --substance n-Butan --type 1 --mode sideways",
+          "point --substance n-Butan --kind 3 --T 300 --p 1 --virial 1,2,3",
+          "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 10",
+          "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 9 --format text",
+          "point --substance n-Butan --kind 3 --T 300 --p 1 --eos 9 --format json",
+          "point --substance n-Butan --kind 6 --T 300 --extended 2",
+          "point --substance n-Butan --kind 8 --T 300 --p 1 --function-list",
+          "curve --substance n-Butan --type 1 --extended 2",
+          "vessel --substance n-Butan --T 300 --mass 20",
+          "vessel --substance n-Butan --T 300 --mass 20 --volume 0",
+          "inverse --substance n-Butan --function w --value 1 --solve-for T --phase V "
+          "--T 300 --p 1",
+          "inverse --substance n-Butan --function v --value 1 --solve-for T --T 300 --p 1",
+          "show",
+          "run"}) {
         const ProcessResult result = process.Run(arguments);
         EXPECT_EQ(result.exitStatus, 2) << arguments;
         EXPECT_EQ(result.output, "") << arguments;
