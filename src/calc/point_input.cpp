@@ -79,9 +79,11 @@ void PointInput::BuildVesselLines() {
     const VesselInput& vessel = records.calculation.vessel;
     const double M = records.substance.molarMass;
     amountInput = vessel.byAmount;
-    const double content = amountInput && M > 0 ? static_cast<float>(vessel.m / M) : vessel.m;
+    // An amount comes from a division: seven digits say it without its rounding.
+    const std::string amount =
+        vessel.m > 0 && M > 0 ? General(static_cast<float>(vessel.m / M)) : std::string();
     lines[0] = {true, "", "      V/m^3   ", ShownNumber(vessel.V)};
-    lines[1] = {true, "", "", ShownNumber(static_cast<float>(content))};
+    lines[1] = {true, "", "", amountInput ? amount : ShownNumber(vessel.m)};
     lines[3] = {true, "", "      T/K     ", ShownNumber(vessel.T)};
     SetAmountInput(amountInput);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include "ui/calc/diagnosis_window.h"
+#include "ui/calc/iso_window.h"
 #include "ui/theme.h"
 #include "ui/ui_fixture.h"
 
@@ -121,10 +123,77 @@ TEST_F(CalculationWindows, ReportCanBeSelectedAndCopiedButNotChanged) {
 }
 
 TEST_F(CalculationWindows, ControlsThatHaveNothingBehindThemAreDisabled) {
-    for (const char* name :
-         {"cmdVor", "cmdRueck", "cmdProtokoll", "cmdOpenNew", "cmdIsoCalc", "cmdShowManuInput"})
+    for (const char* name : {"cmdVor", "cmdRueck", "cmdOpenNew", "cmdIsoCalc", "cmdShowManuInput"})
         EXPECT_FALSE(In<QPushButton>(output, name)->isEnabled()) << name;
     EXPECT_EQ(In<QPushButton>(output, "cmdCalc_OK")->text(), "Schließen");
+}
+
+TEST_F(CalculationWindows, ResultsAreCollectedAndGoToFileAndClipboard) {
+    session->style.decimal = ','; // the numbers of the file follow the system
+    const std::string file = session->protocol.protocolFile;
+    EXPECT_EQ(In<QLabel>(output, "lblProtText2")->text(), ToQt(file));
+    Enter("300", "100");
+    ClickButton(output, "cmdProtokoll");
+    Enter("310", "100");
+    ClickButton(output, "cmdProtokoll");
+    EXPECT_EQ(In<QLabel>(output, "lblProtText2")->text(), ToQt(file) + "    2 Zeilen");
+    EXPECT_TRUE(In<QPushButton>(output, "cmdOpenNew")->isEnabled());
+    auto* separator = In<QComboBox>(output, "cmbSep");
+    EXPECT_EQ(separator->currentText(), "Semikolon");
+    ClickButton(output, "cmdOpenNew");
+    EXPECT_FALSE(In<QPushButton>(output, "cmdOpenNew")->isEnabled());
+    EXPECT_NE(session->protocol.protocolFile, file);
+    const QStringList lines = QGuiApplication::clipboard()->text().split("\r\n");
+    ASSERT_GE(lines.size(), 8);
+    EXPECT_EQ(lines[1], "n-Butan");
+    EXPECT_EQ(lines[2], "CEOS Peng / Robinson\t Wagner"); // every separator becomes a tab
+    EXPECT_TRUE(lines[6].startsWith("T\tp\t")) << FromQt(lines[6]);
+    EXPECT_TRUE(lines[7].startsWith("300\t100\t")) << FromQt(lines[7]);
+    EXPECT_TRUE(std::filesystem::exists(machine.WritableFolder() / file));
+}
+
+TEST_F(CalculationWindows, ACommaAsSeparatorIsTakenWithAWarning) {
+    auto* separator = In<QComboBox>(output, "cmbSep");
+    separator->setCurrentIndex(1);
+    emit separator->activated(1);
+    EXPECT_EQ(session->options.listSeparator, ',');
+    Enter("300", "100");
+    ClickButton(output, "cmdProtokoll");
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].title, "Warnung");
+    EXPECT_EQ(session->protocol.protocolRows(), 1);
+}
+
+TEST_F(CalculationWindows, TheDiagnosisStandsBesideItsResult) {
+    Enter("300", "256");
+    ClickButton(output, "cmdCEOSDiagnose");
+    auto* diagnosis = Wait<frmCEOSDiagnose>();
+    ASSERT_NE(diagnosis, nullptr);
+    EXPECT_EQ(In<QLabel>(diagnosis, "lblStab(2)")->text(), "(instabil)");
+    Enter("500", "256"); // one root
+    EXPECT_FALSE(In<QLabel>(diagnosis, "lblStab(2)")->isVisible());
+    Enter("300", "");
+    EXPECT_FALSE(diagnosis->isVisible());
+}
+
+TEST_F(CalculationWindows, TheInversionMovesThePointOfItsResult) {
+    input->close();
+    Choose("mnuCalcMain", "mnuCalc(11)");
+    input = Wait<frmParinput>();
+    ASSERT_NE(input, nullptr);
+    output = Find<frmCalcOut>();
+    Enter("300", "100");
+    EXPECT_TRUE(In<QPushButton>(output, "cmdIsoCalc")->isEnabled());
+    ClickButton(output, "cmdIsoCalc");
+    auto* inversion = Wait<frmIsoCalc>();
+    ASSERT_NE(inversion, nullptr);
+    Click(In<QRadioButton>(inversion, "OptIsoFu(1)"));
+    In<QLineEdit>(inversion, "txtFuConst")->setText("1000");
+    ClickButton(inversion, "cmdCalc");
+    EXPECT_NEAR(session->batch.rows[0].T, 310, 1); // cp is near 100 kJ/(kmol K)
+    EXPECT_EQ(In<QLabel>(output, "par1")->text(),
+              ToQt("T = " + Format(session->batch.rows[0].T, "###0.000 K", session->style)));
+    EXPECT_NEAR(output->Model().Result().results[slotVolumeV + 1], 1000, 0.01);
 }
 
 TEST_F(CalculationWindows, ClosingTheResultClosesTheInputToo) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ui/calc/method_window.h"
+#include "ui/calc/vessel_window.h"
 #include "ui/ui_fixture.h"
 
 namespace orva::test {
@@ -187,6 +188,10 @@ TEST_F(MethodWindow, VesselAsksForVolumeContentAndTemperature) {
     EXPECT_EQ(output->windowTitle(), "Phasenzustand und Druck in einem Behälter (Globalberechnung)");
     EXPECT_FALSE(In<QGroupBox>(output, "fraProtokoll")->isVisible());
     EXPECT_TRUE(Report(output).startsWith("                         Verdampfungsgrad y(V) = 0.19738898\n"));
+    auto* picture = Find<frmKessel>();
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->windowTitle(), "Behälter-Berechnung (Global-Methode)");
+    EXPECT_TRUE(In<QLabel>(picture, "labLevel")->text().startsWith("Füllstand 15.5"));
 }
 
 TEST_F(MethodWindow, PartialVesselIsRefusedAboveTheCriticalTemperature) {

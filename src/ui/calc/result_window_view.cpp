@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -125,20 +126,52 @@ QGroupBox* frmCalcOut::OutputFrame() {
 QGroupBox* frmCalcOut::ProtocolFrame() {
     auto* frame = new QGroupBox(QStringLiteral("Protokoll"), this);
     frame->setObjectName(QStringLiteral("fraProtokoll"));
-    auto* separator = new QComboBox(frame);
-    separator->setObjectName(QStringLiteral("cmbSep"));
-    separator->addItems({QStringLiteral("Semikolon"), QStringLiteral("Komma"), QStringLiteral("Tab")});
-    auto* add = AddButton("cmdProtokoll", QStringLiteral("Ergebnis protokollieren"));
-    auto* next =
+    cmbSep = new QComboBox(frame);
+    cmbSep->setObjectName(QStringLiteral("cmbSep"));
+    cmbSep->setToolTip(QStringLiteral("Trennzeichen der Datei"));
+    cmbSep->addItems({QStringLiteral("Semikolon"), QStringLiteral("Komma"), QStringLiteral("Tab")});
+    cmdProtokoll = AddButton("cmdProtokoll", QStringLiteral("Ergebnis &protokollieren"));
+    cmdOpenNew =
         AddButton("cmdOpenNew",
-                  QStringLiteral("File schließen / neues File öffnen  und Protokoll in Clipboard kopieren"));
-    auto* row = new QHBoxLayout(frame);
-    row->addWidget(separator);
-    row->addWidget(add);
-    row->addWidget(next);
+                  QStringLiteral("&File schließen / neues File öffnen  und Protokoll in Clipboard kopieren"));
+    lblProtText2 = MutedLabel(QString(), frame);
+    lblProtText2->setObjectName(QStringLiteral("lblProtText2"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(cmbSep);
+    row->addWidget(cmdProtokoll);
+    row->addWidget(cmdOpenNew);
     row->addStretch(1);
-    frame->setEnabled(false);
+    auto* column = new QVBoxLayout(frame);
+    column->setSpacing(4);
+    column->addLayout(row);
+    column->addWidget(lblProtText2);
     return frame;
+}
+
+// How many rows the protocol holds, and the file that they go to.
+void frmCalcOut::ShowProtocol() {
+    const Protocol& protocol = session.protocol;
+    const int rows = protocol.protocolRows();
+    cmbSep->setCurrentIndex(ListSeparatorIndex(session.options.listSeparator));
+    cmdOpenNew->setEnabled(protocol.protocolOpen());
+    QString text = ToQt(protocol.protocolFile);
+    if (rows > 0)
+        text += QStringLiteral("    %1 %2")
+                    .arg(rows)
+                    .arg(rows == 1 ? QStringLiteral("Zeile") : QStringLiteral("Zeilen"));
+    lblProtText2->setText(text);
+}
+
+void frmCalcOut::RecordResult() {
+    session.protocol.Record(model.Result().results, session.Calculation());
+    ShowProtocol();
+}
+
+void frmCalcOut::CloseProtocol() {
+    const std::optional<std::string> text = session.protocol.OpenNew(session.Calculation());
+    if (text)
+        QGuiApplication::clipboard()->setText(ToQt(*text));
+    ShowProtocol();
 }
 
 QLayout* frmCalcOut::ButtonRow() {
@@ -174,6 +207,11 @@ void frmCalcOut::ConnectControls() {
             ShowControls();
         });
     connect(chkFuncPrint, &QCheckBox::clicked, this, [this](bool on) { model.SetPrintFunctions(on); });
+    connect(cmbSep, &QComboBox::activated, this, [this](int index) {
+        session.options.listSeparator = listSeparators.at(static_cast<std::size_t>(index));
+    });
+    connect(cmdProtokoll, &QPushButton::clicked, this, &frmCalcOut::RecordResult);
+    connect(cmdOpenNew, &QPushButton::clicked, this, &frmCalcOut::CloseProtocol);
     connect(cmdIsoCalc, &QPushButton::clicked, this, &frmCalcOut::IsoCalcWanted);
     connect(cmdCEOSDiagnose, &QPushButton::clicked, this, &frmCalcOut::DiagnosisWanted);
 }
@@ -190,6 +228,7 @@ void frmCalcOut::ShowControls() {
     findChild<QGroupBox*>(QStringLiteral("fraProtokoll"))->setVisible(model.ProtocolVisible());
     optResultPrint[static_cast<std::size_t>(model.Output())]->setChecked(true);
     chkFuncPrint->setEnabled(model.PrintFunctionsEnabled());
+    ShowProtocol();
     cmdIsoCalc->setEnabled(model.IsoCalcEnabled());
     const bool diagnosis = model.Result().diagnoseEnabled;
     cmdCEOSDiagnose->setEnabled(diagnosis);
@@ -234,6 +273,7 @@ void frmCalcOut::Refresh() {
     co2->setBackgroundRole(result.co2.reportBackground ? QPalette::Base : QPalette::NoRole);
     report->Show(result);
     ShowControls();
+    emit Calculated();
 }
 
 } // namespace orva

@@ -37,6 +37,8 @@ signals:
     // `cmdIsoCalc` and `cmdCEOSDiagnose`.
     void IsoCalcWanted();
     void DiagnosisWanted();
+    // A new result stands.
+    void Calculated();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -54,6 +56,9 @@ private:
     BusyCursor& busy;
     ResultWindow model;
     void Step(StepResult result);
+    void ShowProtocol();
+    void RecordResult();
+    void CloseProtocol();
     void ConnectControls();
 
     QLabel *par1, *par2, *co1, *co2, *statusZeile;
@@ -62,6 +67,9 @@ private:
     std::array<QCheckBox*, 2> ResPlus{};
     std::array<QRadioButton*, 3> optResultPrint{};
     QCheckBox* chkFuncPrint = nullptr;
+    QComboBox* cmbSep = nullptr;
+    QLabel* lblProtText2 = nullptr;
+    QPushButton *cmdProtokoll = nullptr, *cmdOpenNew = nullptr;
     QPushButton *cmdRueck = nullptr, *cmdVor = nullptr, *cmdIsoCalc = nullptr, *cmdCEOSDiagnose = nullptr;
     ReportView* report;
 };

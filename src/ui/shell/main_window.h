@@ -89,6 +89,9 @@ private:
     void AskForPoint();
     void PointAccepted();
     void CalculateVessel();
+    void FollowResult();
+    void OpenIsoCalc();
+    void OpenDiagnosis();
 
     Session& session;
     BusyCursor busy;

@@ -2,10 +2,13 @@
 #include "diagrams/catalogue.h"
 #include "shell/road.h"
 #include "shell/status_texts.h"
+#include "ui/calc/diagnosis_window.h"
+#include "ui/calc/iso_window.h"
 #include "ui/calc/method_window.h"
 #include "ui/calc/point_input_window.h"
 #include "ui/calc/reference_window.h"
 #include "ui/calc/result_window_view.h"
+#include "ui/calc/vessel_window.h"
 #include "ui/place_window.h"
 #include "ui/shell/diagram_desk.h"
 #include "ui/shell/help_desk.h"
@@ -271,6 +274,9 @@ void mdiORVA::StartCalculation(const CalculationStart& start) {
 
 void mdiORVA::ShowResult() {
     resultWindow = new frmCalcOut(session, busy, this);
+    connect(resultWindow, &frmCalcOut::IsoCalcWanted, this, &mdiORVA::OpenIsoCalc);
+    connect(resultWindow, &frmCalcOut::DiagnosisWanted, this, &mdiORVA::OpenDiagnosis);
+    connect(resultWindow, &frmCalcOut::Calculated, this, &mdiORVA::FollowResult);
     ShowForm(resultWindow, Qt::NonModal);
     resultWindow->Calculate();
 }
@@ -315,6 +321,42 @@ void mdiORVA::CalculateVessel() {
     if (inputWindow != nullptr)
         inputWindow->close();
     ShowResult();
+    auto* picture = new frmKessel(session, resultWindow);
+    PlaceBeside(*picture, *resultWindow);
+    ShowForm(picture, Qt::NonModal);
+}
+
+// The windows beside a result show the new one, or go where it has nothing for them.
+void mdiORVA::FollowResult() {
+    for (QWidget* form : OpenForms()) {
+        if (auto* picture = qobject_cast<frmKessel*>(form))
+            picture->Show();
+        if (auto* diagnosis = qobject_cast<frmCEOSDiagnose*>(form)) {
+            if (resultWindow != nullptr && resultWindow->Model().Result().diagnoseEnabled)
+                diagnosis->Show();
+            else
+                diagnosis->close();
+        }
+    }
+}
+
+void mdiORVA::OpenIsoCalc() {
+    if (resultWindow == nullptr)
+        return;
+    CloseForms({"frmIsoCalc"});
+    auto* form = new frmIsoCalc(session, busy, resultWindow);
+    connect(form, &frmIsoCalc::WorkingPointChanged, resultWindow, &frmCalcOut::Refresh);
+    PlaceBeside(*form, *resultWindow);
+    ShowForm(form, Qt::NonModal);
+}
+
+void mdiORVA::OpenDiagnosis() {
+    if (resultWindow == nullptr)
+        return;
+    CloseForms({"frmCEOSDiagnose"});
+    auto* form = new frmCEOSDiagnose(session, resultWindow);
+    PlaceBeside(*form, *resultWindow);
+    ShowForm(form, Qt::NonModal);
 }
 
 } // namespace orva
