@@ -5,6 +5,8 @@
 #include <limits>
 
 #include "database/accepted_deviations.h"
+#include "database/common_fluids.h"
+#include "database/coverage.h"
 #include "database/record_checks.h"
 #include "database/record_compiler.h"
 #include "database/synonym_file.h"
@@ -86,6 +88,8 @@ DatabaseBuild BuildDatabase(const SourceFiles& files) {
     build.synonymFile = EncodeSynonyms(groups);
     build.substances = static_cast<int>(substances.size());
     build.names = static_cast<int>(groups.size());
+    build.coverage = CoverageText(substances, tables, build.names - build.substances);
+    build.incomplete = IncompleteFluids(substances);
     return build;
 }
 

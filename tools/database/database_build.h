@@ -17,8 +17,10 @@ struct DatabaseBuild {
     std::string database;    // bytes of ORVA.Q05
     std::string synonymFile; // bytes of SYNOM.TXT
     int substances = 0;
-    int names = 0;       // groups of the synonym file
-    CheckResults checks; // filled as soon as all tables can be read
+    int names = 0;          // groups of the synonym file
+    CheckResults checks;    // filled as soon as all tables can be read
+    std::string coverage;   // CoverageText
+    std::string incomplete; // IncompleteFluids
 };
 
 // Checks and compiles the tables. Survives any bytes.
