@@ -15,12 +15,11 @@ namespace orva {
 namespace {
 
 constexpr std::string_view usage =
-    "usage: orva-build-database TABLES_DIR OUTPUT_DIR\n"
-    "       orva-build-database --check TABLES_DIR          a table of all checks\n"
-    "       orva-build-database --list TABLES_DIR [CHECK]   every deviation, of one check or of all\n"
-    "       orva-build-database --incomplete TABLES_DIR          common fluids that lack something\n"
-    "       orva-build-database --coverage TABLES_DIR DOCUMENT   brings the coverage in a document up to "
-    "date\n";
+    "usage: orva-build-database TABLES_DIR OUTPUT_DIR             compiles the database and the synonyms\n"
+    "       orva-build-database --check TABLES_DIR                a table of all checks\n"
+    "       orva-build-database --list TABLES_DIR [CHECK]         every deviation, of one check or of all\n"
+    "       orva-build-database --incomplete TABLES_DIR           common fluids that lack something\n"
+    "       orva-build-database --coverage TABLES_DIR DOCUMENT    brings the coverage in a document up to date\n";
 
 int ReportRefusals(const DatabaseBuild& build, std::ostream& errors) {
     for (const Refusal& refusal : build.refusals)

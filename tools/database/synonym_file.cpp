@@ -25,6 +25,28 @@ std::vector<std::string> SplitSynonyms(std::string_view text) {
     return synonyms;
 }
 
+// The search turns SAEURE into SÄURE by itself; a key with the letters written out would never be found.
+std::string WithoutUmlauts(std::string key) {
+    constexpr std::pair<std::string_view, std::string_view> letters[] = {
+        {"Ä", "AE"}, {"Ö", "OE"}, {"Ü", "UE"}, {"ß", "SS"}};
+    for (const auto& [from, to] : letters) {
+        for (auto at = key.find(from); at != key.npos; at = key.find(from, at + to.size()))
+            key.replace(at, from.size(), to);
+    }
+    return KeyOf(key);
+}
+
+// ETH that is not the end of METH begins with AE in old German.
+std::string OldEthyl(const std::string& key) {
+    std::string old;
+    for (std::size_t i = 0; i < key.size(); ++i) {
+        if (key.compare(i, 3, "ETH") == 0 && (i == 0 || key[i - 1] != 'M'))
+            old += 'A';
+        old += key[i];
+    }
+    return old;
+}
+
 class SynonymCompiler {
 public:
     explicit SynonymCompiler(Refusals& list) : refusals(list) {}
@@ -39,6 +61,7 @@ public:
             for (const std::string& part : NameParts(name))
                 AddName(groups.back(), part, place);
         }
+        germanNames.push_back({groups.size() - 1, NameParts(record.nameGerman)});
     }
 
     void TakeRow(const Table& table, const TableRow& row) {
@@ -60,6 +83,20 @@ public:
             TakeNames(groups[found->second], table, row, place);
         else
             TakeNamedOnly(cas, table, row, place);
+    }
+
+    // What a keyboard without umlauts makes of the keys, and the old spelling of ethyl in German names:
+    // "DIAETHYLAETHER". Behind all names, which they never take from another substance.
+    void AddSpellings() {
+        for (SynonymGroup& group : groups) {
+            const std::vector<std::string> keys = group.keys;
+            for (const std::string& key : keys)
+                AddMadeUp(group, WithoutUmlauts(key));
+        }
+        for (const auto& [index, names] : germanNames) {
+            for (const std::string& name : names)
+                AddMadeUp(groups[index], WithoutUmlauts(OldEthyl(KeyOf(name))));
+        }
     }
 
     // Behind all names, which a formula never takes from another substance.
@@ -98,6 +135,7 @@ private:
                           {}});
         CheckFields(groups.back(), place);
         AddName(groups.back(), groups.back().nameGerman, place);
+        germanNames.push_back({groups.size() - 1, {groups.back().nameGerman}});
         AddName(groups.back(), groups.back().nameEnglish, place);
         AddSynonyms(groups.back(), table, row, place);
     }
@@ -118,6 +156,12 @@ private:
     void AddSynonyms(SynonymGroup& group, const Table& table, const TableRow& row, const Place& place) {
         for (const std::string& synonym : SplitSynonyms(table.Cell(row, "synonyms")))
             AddName(group, synonym, place);
+    }
+
+    // A key that is made up gives way to one that a table names.
+    void AddMadeUp(SynonymGroup& group, const std::string& key) {
+        if (owners.emplace(key, group.cas).second)
+            group.keys.push_back(key);
     }
 
     // The fields of the second line.
@@ -155,8 +199,9 @@ private:
 
     Refusals& refusals;
     std::map<std::string, std::size_t> byCas;
-    std::map<std::string, int> rows;           // CAS number -> line
-    std::map<std::string, std::string> owners; // search key -> CAS number
+    std::vector<std::pair<std::size_t, std::vector<std::string>>> germanNames; // of each group
+    std::map<std::string, int> rows;                                           // CAS number -> line
+    std::map<std::string, std::string> owners;                                 // search key -> CAS number
 };
 
 } // namespace
@@ -168,6 +213,7 @@ std::vector<SynonymGroup> CompileSynonyms(const std::vector<CompiledSubstance>& 
         compiler.TakeSubstance(substance);
     for (const TableRow& row : synonyms.rows)
         compiler.TakeRow(synonyms, row);
+    compiler.AddSpellings();
     compiler.AddFormulas(substances.size());
     return std::move(compiler.groups);
 }
