@@ -307,8 +307,9 @@ TEST(SynonymFile, FindsEveryNameOfTheTablesInItsGroup) {
         names.push_back(row.at("name_de"));
         names.push_back(row.at("name_en"));
         for (const std::string& name : names) {
-            if (!name.empty()) // a row without synonyms
+            if (!name.empty()) { // else a row without synonyms
                 EXPECT_TRUE(keys[row.at("cas")].contains(KeyOf(name))) << row.at("cas") << " " << name;
+            }
         }
     }
     for (const Row& row : ReadRows("identity.tsv")) {

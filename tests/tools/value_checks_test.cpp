@@ -57,9 +57,10 @@ TEST(ValueChecks, CompareTheVapourPressureAtTcWithPc) {
     SourceFiles files = MiniTablesAnd("wagner.tsv", wagnerOfNitrogen);
     std::string& constants = files.find("constants.tsv")->second;
     constants.replace(constants.find("3395.8"), 6, "3695.8");
-    EXPECT_THAT(RefusalTexts(files),
-                ElementsAre("wagner.tsv:2: 7727-37-9: Wagner equation leads to 3399 kPa at Tc, not 3696 kPa within "
-                            "5 %"));
+    EXPECT_THAT(
+        RefusalTexts(files),
+        ElementsAre("wagner.tsv:2: 7727-37-9: Wagner equation leads to 3398 kPa at Tc, not 3696 kPa within "
+                    "5 %"));
 }
 
 TEST(ValueChecks, CompareEquationsInTheirCommonRange) {
@@ -68,10 +69,10 @@ TEST(ValueChecks, CompareEquationsInTheirCommonRange) {
     std::string& antoine = files.find("antoine_low.tsv")->second;
     const std::string good = "5.61947\t255.68\t266.55";
     antoine.replace(antoine.find(good), good.size(), "6.31947\t305.13\t266.55");
-    EXPECT_THAT(RefusalTexts(files),
-                ElementsAre(testing::AllOf(testing::StartsWith("antoine_low.tsv:3: 7727-37-9: Antoine equation "
-                                                               "gives "),
-                                           testing::EndsWith("which is not equal within 10 %"))));
+    EXPECT_THAT(RefusalTexts(files), ElementsAre(testing::AllOf(
+                                         testing::StartsWith("antoine_low.tsv:3: 7727-37-9: Antoine equation "
+                                                             "gives "),
+                                         testing::EndsWith("which is not equal within 10 %"))));
 }
 
 TEST(ValueChecks, CompareOmegaWithTheVapourPressure) {
@@ -79,27 +80,31 @@ TEST(ValueChecks, CompareOmegaWithTheVapourPressure) {
     std::string& constants = files.find("constants.tsv")->second;
     const std::string before = "3395.8\tPGL\t\t\t\t\t77.355";
     constants.replace(constants.find(before), before.size(), "3395.8\tPGL\t\t\t0.137\tPGL\t77.355");
-    EXPECT_THAT(RefusalTexts(files), ElementsAre(testing::MatchesRegex(
-                                         "constants.tsv:3: 7727-37-9: wagner.tsv leads to omega = 0.03.., not 0.137 "
-                                         "within 0.03")));
+    EXPECT_THAT(RefusalTexts(files),
+                ElementsAre(testing::MatchesRegex(
+                    "constants.tsv:3: 7727-37-9: wagner.tsv leads to omega = 0.03.., not 0.137 "
+                    "within 0.03")));
 }
 
 TEST(ValueChecks, CompareBothFormsOfTheIdealGasHeatCapacity) {
-    SourceFiles files = MiniTablesAnd("cp_ideal_polynomial.tsv",
-                                      "7727-37-9\tNitrogen\t30.1\t0\t0\t0\t0\t100\t500\tPGL\t");
+    SourceFiles files =
+        MiniTablesAnd("cp_ideal_polynomial.tsv", "7727-37-9\tNitrogen\t30.1\t0\t0\t0\t0\t100\t500\tPGL\t");
     files.find("cp_ideal_sinh_cosh.tsv")->second +=
         "7727-37-9\tNitrogen\t29.1\t0\t100\t0\t100\t100\t500\tPGL\t\n";
-    EXPECT_THAT(RefusalTexts(files),
-                ElementsAre("cp_ideal_polynomial.tsv:2: 7727-37-9: gives 30.10 kJ/(kmol K) at 100 K, sinh/cosh 29.10 "
-                            "kJ/(kmol K), which is not equal within 3 %"));
+    EXPECT_THAT(
+        RefusalTexts(files),
+        ElementsAre("cp_ideal_polynomial.tsv:2: 7727-37-9: gives 30.10 kJ/(kmol K) at 100 K, sinh/cosh 29.10 "
+                    "kJ/(kmol K), which is not equal within 3 %"));
 }
 
 TEST(ValueChecks, KeepTheIdealGasHeatCapacityAboveItsFloorAndRising) {
-    EXPECT_THAT(WithRow("cp_ideal_polynomial.tsv", "7727-37-9\tNitrogen\t20\t0\t0\t0\t0\t100\t500\tPGL\t"),
-                ElementsAre("cp_ideal_polynomial.tsv:2: 7727-37-9: falls to 20.00 kJ/(kmol K), not above 2.5 R "
-                            "within 0.5 %"));
-    EXPECT_THAT(WithRow("cp_ideal_polynomial.tsv", "7727-37-9\tNitrogen\t40\t-0.02\t0\t0\t0\t100\t500\tPGL\t"),
-                ElementsAre("cp_ideal_polynomial.tsv:2: 7727-37-9: falls with T by 21.05 %, not less within 5 %"));
+    EXPECT_THAT(
+        WithRow("cp_ideal_polynomial.tsv", "7727-37-9\tNitrogen\t20\t0\t0\t0\t0\t100\t500\tPGL\t"),
+        ElementsAre("cp_ideal_polynomial.tsv:2: 7727-37-9: falls to 20.00 kJ/(kmol K), not above 2.5 R "
+                    "within 0.5 %"));
+    EXPECT_THAT(
+        WithRow("cp_ideal_polynomial.tsv", "7727-37-9\tNitrogen\t40\t-0.02\t0\t0\t0\t100\t500\tPGL\t"),
+        ElementsAre("cp_ideal_polynomial.tsv:2: 7727-37-9: falls with T by 21.05 %, not less within 5 %"));
 }
 
 TEST(ValueChecks, CompareTheFormationValues) {
@@ -108,10 +113,17 @@ TEST(ValueChecks, CompareTheFormationValues) {
                             "sConventional -187.992 kJ/(kmol K), which is not equal within 0.5"));
 }
 
+// A density of the wrong sign fails at Tb as well; it is told once.
+TEST(ValueChecks, TellTheFirstFaultOfARow) {
+    EXPECT_THAT(WithValue("rho_liquid.tsv", "\t90\t", "\t-90\t"),
+                ElementsAre("rho_liquid.tsv:2: 7727-37-9: the liquid density is not positive at 64 K"));
+}
+
 TEST(ValueChecks, CompareTheLiquidDensityWithTheOneAtTb) {
-    EXPECT_THAT(WithValue("constants.tsv", "806.1", "906.1"),
-                ElementsAre(testing::MatchesRegex("rho_liquid.tsv:2: 7727-37-9: gives [78][0-9.]* kg/m.3 at Tb, not "
-                                                  "906.1 kg/m.3 within 3 %")));
+    EXPECT_THAT(
+        WithValue("constants.tsv", "806.1", "906.1"),
+        ElementsAre(testing::MatchesRegex("rho_liquid.tsv:2: 7727-37-9: gives [78][0-9.]* kg/m.3 at Tb, not "
+                                          "906.1 kg/m.3 within 3 %")));
 }
 
 TEST(AcceptedDeviations, LetADeviationStand) {

@@ -19,7 +19,8 @@ constexpr std::string_view usage =
     "       orva-build-database --check TABLES_DIR                a table of all checks\n"
     "       orva-build-database --list TABLES_DIR [CHECK]         every deviation, of one check or of all\n"
     "       orva-build-database --incomplete TABLES_DIR           common fluids that lack something\n"
-    "       orva-build-database --coverage TABLES_DIR DOCUMENT    brings the coverage in a document up to date\n";
+    "       orva-build-database --coverage TABLES_DIR DOCUMENT    brings the coverage in a document up to "
+    "date\n";
 
 int ReportRefusals(const DatabaseBuild& build, std::ostream& errors) {
     for (const Refusal& refusal : build.refusals)

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 
+#include "database/common_fluids.h"
 #include "database/table_layout.h"
 #include "substance/record_fields.h"
 
@@ -72,6 +73,7 @@ Counts SourcesOf(const Table& table, std::string_view column, std::string_view s
 
 std::string CoverageText(const std::vector<CompiledSubstance>& substances, const std::vector<Table>& tables,
                          int namedOnly) {
+    const std::string incomplete = IncompleteFluids(substances);
     std::string text = std::to_string(substances.size()) + " substances; the search knows "
                        + std::to_string(namedOnly) + " more by name.\n\n"
                        + "| block | substances | T/Tc | by source |\n|---|---|---|---|\n";
@@ -92,6 +94,17 @@ std::string CoverageText(const std::vector<CompiledSubstance>& substances, const
             if (!entry.column.starts_with("TVap"))
                 text += ValueRow(entry.column, SourcesOf(tables[i], entry.column, entry.source));
         }
+    }
+    text += "\nThe common fluids (`tools/database/common_fluids.cpp`, "
+            + std::to_string(CommonFluids().size())
+            + ") have critical point, acentric factor, boiling temperature, vapour pressure, liquid density, "
+              "enthalpy of vaporisation, heat capacities and formation values, but for these gaps, which no "
+              "source at hand fills:\n\n";
+    std::string_view lines = incomplete;
+    while (!lines.empty()) {
+        const auto end = lines.find('\n');
+        text += "- " + std::string(lines.substr(0, end)) + "\n";
+        lines.remove_prefix(end + 1);
     }
     return text;
 }

@@ -11,8 +11,8 @@
 namespace orva {
 
 // What the database holds, as two tables in Markdown: the blocks with the number of substances, the range of
-// validity (median of Tlo/Tc and Thi/Tc) and the sources of their rows; the single values with their sources.
-// `tables` stand in the order of TableLayouts().
+// validity (median of Tlo/Tc and Thi/Tc) and the sources of their rows; the single values with their sources;
+// and the common fluids that lack something. `tables` stand in the order of TableLayouts().
 std::string CoverageText(const std::vector<CompiledSubstance>& substances, const std::vector<Table>& tables,
                          int namedOnly);
 

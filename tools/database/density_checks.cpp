@@ -19,14 +19,12 @@ double RhoLiquid(const CheckSubject& subject, double T) {
 
 } // namespace
 
-// Just below the reference temperature the Rackett form has its last value; above it the program gives 0.
 Deviations CheckLiquidDensityPositive(CheckSubject& subject) {
     const LiquidDensityBlock& block = subject.Data().rhoLiquid;
     if (!subject.Has(liquidFile))
         return {};
     for (int T = block.Tlo; T <= block.Thi; ++T) {
-        const double within = std::min<double>(T, block.r1 == 0 ? block.Tcr : T);
-        if (T > block.Tcr + 1 || !(RhoLiquid(subject, within) > 0))
+        if (!(RhoLiquid(subject, T) > 0))
             return {{liquidFile, Deviation::hopeless,
                      "the liquid density is not positive at " + std::to_string(T) + " K"}};
     }

@@ -2,6 +2,7 @@
 #include "database/record_checks.h"
 
 #include <cmath>
+#include <set>
 #include <string_view>
 
 #include "database/table_layout.h"
@@ -96,7 +97,8 @@ private:
         } else if (size > check.note) {
             verdict = Verdict::note;
         }
-        if (verdict == Verdict::refused)
+        // One fault of a row often fails several checks: the first one tells it.
+        if (verdict == Verdict::refused && refusedFiles.insert(deviation.file).second)
             Refuse(deviation.file, RefusalReason(check, deviation));
         results.Add(index, {verdict, substance.cas, substance.nameEnglish, substance.Line(deviation.file),
                             std::move(deviation)});
@@ -117,6 +119,7 @@ private:
     AcceptedDeviations& accepted;
     CheckResults& results;
     Refusals& refusals;
+    std::set<std::string_view> refusedFiles; // by a check of values
 };
 
 } // namespace

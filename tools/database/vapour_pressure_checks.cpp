@@ -60,8 +60,11 @@ Deviations Compare(CheckSubject& subject, int first, int second) {
         const double T = low + (high - low) * i / comparedPoints;
         const VapourPressureResult pa = VapourPressure(data, T, a.equation);
         const VapourPressureResult pb = VapourPressure(data, T, b.equation);
-        if (pa.failed || pb.failed)
-            return {{b.file, Deviation::hopeless, std::string(b.name) + " has no value at " + Kelvins(T)}};
+        if (pa.failed || pb.failed) {
+            const PressureTable& blamed = pa.failed ? a : b;
+            return {{blamed.file, Deviation::hopeless,
+                     std::string(blamed.name) + " has no value at " + Kelvins(T)}};
+        }
         if (std::max(pa.value, pb.value) < comparedPressure)
             continue;
         const double value = Percent(pb.value, pa.value);
