@@ -119,6 +119,32 @@ TEST(MiniDatabase, HasTheSynonymFileMadeByHand) {
                                  "\r\n");
 }
 
+std::string GroupOf(const SourceFiles& files, const std::string& cas) {
+    const std::string& text = BuildDatabase(files).synonymFile;
+    const auto begin = text.find(cas + "\r\n");
+    return begin == text.npos ? "" : text.substr(begin, text.find("\r\n\r\n", begin) - begin);
+}
+
+TEST(MiniDatabase, WritesUmlautsOutAndSpellsEthylTheOldWay) {
+    SourceFiles files =
+        MiniTablesAnd("synonyms.tsv", "60-29-7\t0\tC4H10O\tDiethyl ether\tDiethylether\tSchwefeläther");
+    files.find("synonyms.tsv")->second += "540-67-0\t0\tC3H8O\tMethoxyethane\tEthylmethylether\tLöß\n";
+    EXPECT_EQ(GroupOf(files, "60-29-7"), "60-29-7\r\n Diethylether_C4H10O_Diethyl ether\r\nDIETHYLETHER\r\n"
+                                         "SCHWEFELETHER\r\nDIAETHYLAETHER\r\nC4H10O");
+    EXPECT_EQ(GroupOf(files, "540-67-0"),
+              "540-67-0\r\n Ethylmethylether_C3H8O_Methoxyethane\r\nETHYLMETHYLETHER\r\n"
+              "METHOXYETHANE\r\nL\x99\xE1\r\nLOESS\r\nAETHYLMETHYLAETHER\r\nC3H8O");
+}
+
+TEST(MiniDatabase, LeavesAMadeUpKeyToTheSubstanceThatHasItAsAName) {
+    SourceFiles files = MiniTablesAnd("synonyms.tsv", "60-29-7\t0\tC4H10O\tDiethyl ether\tDiethylether\tKöl");
+    files.find("synonyms.tsv")->second += "540-67-0\t0\tC3H8O\tKoel\tEthylmethylether\tDiaethylaether\n";
+    EXPECT_EQ(GroupOf(files, "60-29-7"),
+              "60-29-7\r\n Diethylether_C4H10O_Diethyl ether\r\nDIETHYLETHER\r\nK\x99L\r\nC4H10O");
+    EXPECT_NE(GroupOf(files, "540-67-0").find("\r\nKOEL\r\n"), std::string::npos);
+    EXPECT_NE(GroupOf(files, "540-67-0").find("\r\nDIAETHYLAETHER\r\n"), std::string::npos);
+}
+
 // Broken bytes are refused, or they hit a place where any text may stand.
 TEST(MiniDatabase, SurvivesAnyBytesInAnyFile) {
     const SourceFiles good = MiniTables();
