@@ -157,6 +157,23 @@ constexpr Expected inDatabase[] = {
     {"5989-27-5", "Limonen"},
     {"756-13-8", "Novec 649;Novec649"},
     {"107-51-7", "MDM"},
+    {"106-98-9", "Buten-1;1-Buten;But-1-en"},
+    {"590-18-1", "cis-Buten-2;cis-2-Buten"},
+    {"109-67-1", "Penten-1;1-Penten"},
+    {"111-87-5", "Oktanol;1-Oktanol;Octanol"},
+    {"107-02-8", "Acrolein;Akrolein"},
+    {"74-93-1", "Methylmercaptan;Methylmerkaptan"},
+    {"7783-61-1", "Siliziumtetrafluorid;Siliciumtetrafluorid;SiF4"},
+    {"69-72-7", "Salicylsäure;Salizylsäure;Salicylsaeure"},
+    {"142-62-1", "Capronsäure;Kapronsäure"},
+    {"120-80-9", "Brenzcatechin;Brenzkatechin"},
+    {"460-19-5", "Dicyan;Dizyan;Cyan"},
+    {"591-78-6", "2-Hexanon;Hexanon"},
+    {"108-94-1", "Cyclohexanon;Zyklohexanon;Anon"},
+    {"106-88-7", "Butylenoxid"},
+    {"108-20-3", "DIPE;Diisopropyläther"},
+    {"121-44-8", "Triäthylamin;Triaethylamin"},
+    {"105-58-8", "Diethylcarbonat;Diäthylkarbonat"},
 };
 
 // Substances and mixtures that the database lacks: the search says what was meant.
@@ -185,6 +202,10 @@ constexpr Expected byNameOnly[] = {
     {"7440-50-8", "Kupfer"},
     {"7704-34-9", "Schwefel;sulfur"},
     {"50-78-2", "Aspirin"},
+    {"25321-22-6", "Dichlorbenzol"},
+    {"25167-67-3", "Butylen"},
+    {"67762-38-3", "Biodiesel;Rapsölmethylester"},
+    {"55-63-0", "Nitroglycerin;Nitroglyzerin"},
 };
 
 std::vector<std::string> Inputs(const Expected& expected) {

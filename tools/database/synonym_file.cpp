@@ -3,6 +3,7 @@
 
 #include <map>
 #include <set>
+#include <span>
 
 #include "database/table_layout.h"
 #include "substance/name_search.h"
@@ -25,15 +26,31 @@ std::vector<std::string> SplitSynonyms(std::string_view text) {
     return synonyms;
 }
 
-// The search turns SAEURE into SÄURE by itself; a key with the letters written out would never be found.
-std::string WithoutUmlauts(std::string key) {
-    constexpr std::pair<std::string_view, std::string_view> letters[] = {
-        {"Ä", "AE"}, {"Ö", "OE"}, {"Ü", "UE"}, {"ß", "SS"}};
-    for (const auto& [from, to] : letters) {
-        for (auto at = key.find(from); at != key.npos; at = key.find(from, at + to.size()))
-            key.replace(at, from.size(), to);
+struct Letters {
+    std::string_view from, to;
+};
+
+constexpr Letters umlauts[] = {{"ä", "ae"}, {"ö", "oe"}, {"ü", "ue"}, {"Ä", "Ae"},
+                               {"Ö", "Oe"}, {"Ü", "Ue"}, {"ß", "ss"}};
+
+// Where older German writes K or Z, beyond what NormaliseName knows.
+constexpr Letters olderLetters[] = {
+    {"OCT", "OKT"},       {"MERCAPT", "MERKAPT"}, {"ACRYL", "AKRYL"},     {"ACROLEIN", "AKROLEIN"},
+    {"CAPR", "KAPR"},     {"CATECH", "KATECH"},   {"DECAL", "DEKAL"},     {"GLYCER", "GLYZER"},
+    {"SILICI", "SILIZI"}, {"SALICYL", "SALIZYL"}, {"ACENAPH", "AZENAPH"}, {"CYAN", "ZYAN"},
+};
+
+std::string Replaced(std::string text, std::span<const Letters> table) {
+    for (const auto& [from, to] : table) {
+        for (auto at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
+            text.replace(at, from.size(), to);
     }
-    return KeyOf(key);
+    return text;
+}
+
+// A name on -e that is no acid ("-säure"), or one with "acid".
+bool LooksEnglish(std::string_view key) {
+    return (key.ends_with("E") && !key.ends_with("SÄURE")) || key.find("ACID") != key.npos;
 }
 
 // ETH that is not the end of METH begins with AE in old German.
@@ -45,6 +62,21 @@ std::string OldEthyl(const std::string& key) {
         old += key[i];
     }
     return old;
+}
+
+// "BUTEN1" of "1-Buten", "CISBUTEN2" of "cis-2-Buten"; empty for other names.
+std::string LocantBehind(std::string_view name) {
+    std::string prefix;
+    for (const std::string_view start : {"cis-", "trans-"}) {
+        if (name.starts_with(start)) {
+            prefix = start;
+            name.remove_prefix(start.size());
+        }
+    }
+    if (name.size() < 3 || name[0] < '1' || name[0] > '9' || name[1] != '-'
+        || name.find_first_of("0123456789-,", 2) != name.npos)
+        return {};
+    return KeyOf(prefix + std::string(name.substr(2)) + name[0]);
 }
 
 class SynonymCompiler {
@@ -61,7 +93,8 @@ public:
             for (const std::string& part : NameParts(name))
                 AddName(groups.back(), part, place);
         }
-        germanNames.push_back({groups.size() - 1, NameParts(record.nameGerman)});
+        for (const std::string& part : NameParts(record.nameGerman))
+            germanNames.emplace_back(groups.size() - 1, part);
     }
 
     void TakeRow(const Table& table, const TableRow& row) {
@@ -85,17 +118,21 @@ public:
             TakeNamedOnly(cas, table, row, place);
     }
 
-    // What a keyboard without umlauts makes of the keys, and the old spelling of ethyl in German names:
-    // "DIAETHYLAETHER". Behind all names, which they never take from another substance.
+    // Other spellings of the names, behind all names, from which they never take a key: what a keyboard
+    // without umlauts makes of them; of German names the old "DIAETHYLAETHER" and "BUTEN1"; K and Z for C.
     void AddSpellings() {
+        for (const auto& [index, name] : names)
+            AddMadeUp(groups[index], KeyOf(Replaced(name, umlauts)));
+        for (const auto& [index, name] : germanNames) {
+            AddMadeUp(groups[index], KeyOf(Replaced(OldEthyl(KeyOf(name)), umlauts)));
+            AddMadeUp(groups[index], LocantBehind(name));
+        }
         for (SynonymGroup& group : groups) {
             const std::vector<std::string> keys = group.keys;
-            for (const std::string& key : keys)
-                AddMadeUp(group, WithoutUmlauts(key));
-        }
-        for (const auto& [index, names] : germanNames) {
-            for (const std::string& name : names)
-                AddMadeUp(groups[index], WithoutUmlauts(OldEthyl(KeyOf(name))));
+            for (const std::string& key : keys) {
+                if (!LooksEnglish(key))
+                    AddMadeUp(group, Replaced(key, olderLetters));
+            }
         }
     }
 
@@ -135,7 +172,7 @@ private:
                           {}});
         CheckFields(groups.back(), place);
         AddName(groups.back(), groups.back().nameGerman, place);
-        germanNames.push_back({groups.size() - 1, {groups.back().nameGerman}});
+        germanNames.emplace_back(groups.size() - 1, groups.back().nameGerman);
         AddName(groups.back(), groups.back().nameEnglish, place);
         AddSynonyms(groups.back(), table, row, place);
     }
@@ -160,7 +197,7 @@ private:
 
     // A key that is made up gives way to one that a table names.
     void AddMadeUp(SynonymGroup& group, const std::string& key) {
-        if (owners.emplace(key, group.cas).second)
+        if (!key.empty() && owners.emplace(key, group.cas).second)
             group.keys.push_back(key);
     }
 
@@ -187,6 +224,7 @@ private:
             return;
         }
         const auto [owner, isNew] = owners.emplace(key, group.cas);
+        names.emplace_back(static_cast<std::size_t>(&group - groups.data()), name);
         if (isNew)
             group.keys.push_back(key);
         else if (owner->second != group.cas)
@@ -199,9 +237,9 @@ private:
 
     Refusals& refusals;
     std::map<std::string, std::size_t> byCas;
-    std::vector<std::pair<std::size_t, std::vector<std::string>>> germanNames; // of each group
-    std::map<std::string, int> rows;                                           // CAS number -> line
-    std::map<std::string, std::string> owners;                                 // search key -> CAS number
+    std::vector<std::pair<std::size_t, std::string>> names, germanNames; // index of the group, name
+    std::map<std::string, int> rows;                                     // CAS number -> line
+    std::map<std::string, std::string> owners;                           // search key -> CAS number
 };
 
 } // namespace
