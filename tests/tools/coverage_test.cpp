@@ -38,7 +38,7 @@ TEST(CommonFluids, StandOnceEach) {
 TEST(CommonFluids, AreCompleteButForTheseGaps) {
     EXPECT_EQ(RealBuild().incomplete, "7440-59-7 Helium: cp liquid\n"
                                       "7439-97-6 Mercury: rhoc\n"
-                                      "7722-84-1 Hydrogen peroxide: rho liquid, cp liquid\n"
+                                      "7722-84-1 Hydrogen peroxide: rho liquid\n"
                                       "75-43-4 Dichlorofluoromethane: cp liquid\n"
                                       "75-63-8 Bromotrifluoromethane: rho liquid, hVap, cp liquid\n"
                                       "431-89-0 Heptafluoropropane: hFormation, gFormation\n"

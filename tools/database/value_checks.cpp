@@ -6,6 +6,10 @@
 namespace orva {
 namespace {
 
+template<int first, int second> Deviations Compare(CheckSubject& subject) {
+    return CompareEquations(subject, first, second);
+}
+
 constexpr ValueCheck checks[] = {
     {"p(Tb)", "each vapour-pressure equation that reaches Tb within 5 K, against 101.325 kPa", "%", 1.5, 2,
      CheckPressureAtTb},
@@ -13,16 +17,18 @@ constexpr ValueCheck checks[] = {
     {"p(Ttrip)", "the equation that reaches lowest, at the triple point against ptrip", "%", 10, 40,
      CheckPressureAtTtrip},
     {"p rises", "fall of a vapour-pressure equation over its range", "%", 0, 0, CheckPressureRises},
-    {"Wagner/Frost", "Wagner against Frost/Kalkwarf above 1 kPa, common range", "%", 3, 10, CheckWagnerFrost},
+    {"Wagner/Frost", "Wagner against Frost/Kalkwarf above 1 kPa, common range", "%", 3, 10,
+     Compare<vpWagner, vpFrostKalkwarf>},
     {"Wagner/Antoine-", "Wagner against the low Antoine equation, common range above 1 kPa", "%", 3, 10,
-     CheckWagnerAntoineLow},
+     Compare<vpWagner, vpAntoineLow>},
     {"Wagner/Antoine+", "Wagner against the high Antoine equation, common range", "%", 3, 10,
-     CheckWagnerAntoineHigh},
+     Compare<vpWagner, vpAntoineHigh>},
     {"Frost/Antoine-", "Frost/Kalkwarf against the low Antoine equation, common range above 1 kPa", "%", 3,
-     10, CheckFrostAntoineLow},
+     10, Compare<vpFrostKalkwarf, vpAntoineLow>},
     {"Frost/Antoine+", "Frost/Kalkwarf against the high Antoine equation, common range", "%", 3, 10,
-     CheckFrostAntoineHigh},
-    {"Antoine-/Antoine+", "low against high Antoine equation, common range", "%", 3, 10, CheckAntoineLowHigh},
+     Compare<vpFrostKalkwarf, vpAntoineHigh>},
+    {"Antoine-/Antoine+", "low against high Antoine equation, common range", "%", 3, 10,
+     Compare<vpAntoineLow, vpAntoineHigh>},
     {"omega", "-lg(p(0.7 Tc)/pc) - 1 against omega", "", 0.01, 0.03, CheckAcentricFactor},
     {"M", "molar mass against the formula", "%", 0.005, 0.05, CheckMolarMass},
     {"Zc", "pc M/(rhoc R Tc) against 0.27", "", 0.04, 0.1, CheckCriticalFactor},

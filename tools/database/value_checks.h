@@ -55,12 +55,8 @@ Deviations CheckPressureAtTb(CheckSubject& subject);
 Deviations CheckPressureAtTc(CheckSubject& subject);
 Deviations CheckPressureAtTtrip(CheckSubject& subject);
 Deviations CheckPressureRises(CheckSubject& subject);
-Deviations CheckWagnerFrost(CheckSubject& subject);
-Deviations CheckWagnerAntoineLow(CheckSubject& subject);
-Deviations CheckWagnerAntoineHigh(CheckSubject& subject);
-Deviations CheckFrostAntoineLow(CheckSubject& subject);
-Deviations CheckFrostAntoineHigh(CheckSubject& subject);
-Deviations CheckAntoineLowHigh(CheckSubject& subject);
+// The largest relative difference of two of the equations (VaporPressureIndex) in their common range.
+Deviations CompareEquations(CheckSubject& subject, int first, int second);
 Deviations CheckAcentricFactor(CheckSubject& subject);
 
 Deviations CheckMolarMass(CheckSubject& subject);

@@ -42,40 +42,6 @@ std::string Kelvins(double T) {
     return FixedText(T, 1) + " K";
 }
 
-// The largest relative difference of two equations in their common range.
-Deviations Compare(CheckSubject& subject, int first, int second) {
-    const SubstanceData& data = subject.Data();
-    const std::vector<PressureTable> tables = PressureTables(data);
-    const auto table = [&](int equation) {
-        return *std::find_if(tables.begin(), tables.end(),
-                             [&](const PressureTable& t) { return t.equation == equation; });
-    };
-    const PressureTable a = table(first), b = table(second);
-    if (!subject.Has(a.file) || !subject.Has(b.file))
-        return {};
-    const double low = std::max(a.Tlo, b.Tlo),
-                 high = std::min<double>({1.0 * a.Thi, 1.0 * b.Thi, 0.999 * data.Tc});
-    std::optional<Deviation> worst;
-    for (int i = 0; i <= comparedPoints && low < high; ++i) {
-        const double T = low + (high - low) * i / comparedPoints;
-        const VapourPressureResult pa = VapourPressure(data, T, a.equation);
-        const VapourPressureResult pb = VapourPressure(data, T, b.equation);
-        if (pa.failed || pb.failed) {
-            const PressureTable& blamed = pa.failed ? a : b;
-            return {{blamed.file, Deviation::hopeless,
-                     std::string(blamed.name) + " has no value at " + Kelvins(T)}};
-        }
-        if (std::max(pa.value, pb.value) < comparedPressure)
-            continue;
-        const double value = Percent(pb.value, pa.value);
-        if (!worst || std::abs(value) > std::abs(worst->value))
-            worst = {b.file, value,
-                     std::string(b.name) + " gives " + FixedText(pb.value, 3) + " kPa at " + Kelvins(T) + ", "
-                         + std::string(a.file) + " " + FixedText(pa.value, 3) + " kPa, which is not equal"};
-    }
-    return worst ? Deviations{*worst} : Deviations{};
-}
-
 } // namespace
 
 Deviations CheckPressureAtTb(CheckSubject& subject) {
@@ -163,28 +129,37 @@ Deviations CheckPressureRises(CheckSubject& subject) {
     return found;
 }
 
-Deviations CheckWagnerFrost(CheckSubject& subject) {
-    return Compare(subject, vpWagner, vpFrostKalkwarf);
-}
-
-Deviations CheckWagnerAntoineLow(CheckSubject& subject) {
-    return Compare(subject, vpWagner, vpAntoineLow);
-}
-
-Deviations CheckWagnerAntoineHigh(CheckSubject& subject) {
-    return Compare(subject, vpWagner, vpAntoineHigh);
-}
-
-Deviations CheckFrostAntoineLow(CheckSubject& subject) {
-    return Compare(subject, vpFrostKalkwarf, vpAntoineLow);
-}
-
-Deviations CheckFrostAntoineHigh(CheckSubject& subject) {
-    return Compare(subject, vpFrostKalkwarf, vpAntoineHigh);
-}
-
-Deviations CheckAntoineLowHigh(CheckSubject& subject) {
-    return Compare(subject, vpAntoineLow, vpAntoineHigh);
+Deviations CompareEquations(CheckSubject& subject, int first, int second) {
+    const SubstanceData& data = subject.Data();
+    const std::vector<PressureTable> tables = PressureTables(data);
+    const auto table = [&](int equation) {
+        return *std::find_if(tables.begin(), tables.end(),
+                             [&](const PressureTable& t) { return t.equation == equation; });
+    };
+    const PressureTable a = table(first), b = table(second);
+    if (!subject.Has(a.file) || !subject.Has(b.file))
+        return {};
+    const double low = std::max(a.Tlo, b.Tlo),
+                 high = std::min<double>({1.0 * a.Thi, 1.0 * b.Thi, 0.999 * data.Tc});
+    std::optional<Deviation> worst;
+    for (int i = 0; i <= comparedPoints && low < high; ++i) {
+        const double T = low + (high - low) * i / comparedPoints;
+        const VapourPressureResult pa = VapourPressure(data, T, a.equation);
+        const VapourPressureResult pb = VapourPressure(data, T, b.equation);
+        if (pa.failed || pb.failed) {
+            const PressureTable& blamed = pa.failed ? a : b;
+            return {{blamed.file, Deviation::hopeless,
+                     std::string(blamed.name) + " has no value at " + Kelvins(T)}};
+        }
+        if (std::max(pa.value, pb.value) < comparedPressure)
+            continue;
+        const double value = Percent(pb.value, pa.value);
+        if (!worst || std::abs(value) > std::abs(worst->value))
+            worst = {b.file, value,
+                     std::string(b.name) + " gives " + FixedText(pb.value, 3) + " kPa at " + Kelvins(T) + ", "
+                         + std::string(a.file) + " " + FixedText(pa.value, 3) + " kPa, which is not equal"};
+    }
+    return worst ? Deviations{*worst} : Deviations{};
 }
 
 // The equation that holds 0.7 Tc, Wagner first.
