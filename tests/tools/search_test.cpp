@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <map>
+#include <random>
 #include <sstream>
 
 #include "database/database_build.h"
@@ -219,7 +220,9 @@ std::vector<std::string> Inputs(const Expected& expected) {
 class RealSearch : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        folder = std::filesystem::path(testing::TempDir()) / "orva-real-search";
+        // Tests run in processes of their own, side by side.
+        folder = std::filesystem::path(testing::TempDir())
+                 / ("orva-real-search-" + std::to_string(std::random_device{}()));
         std::filesystem::create_directories(folder);
         build = BuildDatabase(ReadSourceFiles(ORVA_SUBSTANCE_TABLES));
         ASSERT_TRUE(WriteFile(folder / "ORVA.Q05", build.database));
