@@ -95,6 +95,7 @@ TEST(MiniDatabase, HasTheSynonymFileMadeByHand) {
                                  "EISESSIG\r\n"
                                  "ACETICACID\r\n"
                                  "ETHANS\x8EURE\r\n"
+                                 "AETHANS\x8EURE\r\n"
                                  "C2H4O2\r\n"
                                  "\r\n"
                                  "7727-37-9\r\n"
@@ -115,8 +116,46 @@ TEST(MiniDatabase, HasTheSynonymFileMadeByHand) {
                                  "HYDROGENCYANIDE\r\n"
                                  "CYANWASSERSTOFF\r\n"
                                  "HCN\r\n"
+                                 "ZYANWASSERSTOFF\r\n"
                                  "CHN\r\n"
                                  "\r\n");
+}
+
+std::string GroupOf(const SourceFiles& files, const std::string& cas) {
+    const std::string& text = BuildDatabase(files).synonymFile;
+    const auto begin = text.find(cas + "\r\n");
+    return begin == text.npos ? "" : text.substr(begin, text.find("\r\n\r\n", begin) - begin);
+}
+
+TEST(MiniDatabase, AddsOtherSpellingsOfTheNames) {
+    SourceFiles files =
+        MiniTablesAnd("synonyms.tsv", "60-29-7\t0\tC4H10O\tDiethyl ether\tDiethylether\tSchwefeläther");
+    files.find("synonyms.tsv")->second +=
+        "540-67-0\t0\tC3H8O\tMethoxyethane\tEthylmethylether\tLöß\n"
+        "106-98-9\t0\tC4H8\tButene\t1-Buten\t\n"
+        "4050-45-7\t0\tC6H12\tHexene\ttrans-2-Hexen\tn-Octan, Merkaptan|Acrolein\n"
+        "108-38-3\t0\tC8H10\tXylene\t1,3-Xylol\t\n";
+    EXPECT_EQ(GroupOf(files, "60-29-7"), "60-29-7\r\n Diethylether_C4H10O_Diethyl ether\r\nDIETHYLETHER\r\n"
+                                         "SCHWEFELETHER\r\nSCHWEFELAETHER\r\nDIAETHYLAETHER\r\nC4H10O");
+    EXPECT_EQ(GroupOf(files, "540-67-0"),
+              "540-67-0\r\n Ethylmethylether_C3H8O_Methoxyethane\r\nETHYLMETHYLETHER\r\n"
+              "METHOXYETHANE\r\nL\x99\xE1\r\nLOESS\r\nAETHYLMETHYLAETHER\r\nC3H8O");
+    EXPECT_EQ(GroupOf(files, "106-98-9"),
+              "106-98-9\r\n 1-Buten_C4H8_Butene\r\n1BUTEN\r\nBUTENE\r\nBUTEN1\r\nC4H8");
+    EXPECT_EQ(GroupOf(files, "4050-45-7"),
+              "4050-45-7\r\n trans-2-Hexen_C6H12_Hexene\r\nTRANS2HEXEN\r\nHEXENE\r\nNOCTAN,MERKAPTAN\r\n"
+              "ACROLEIN\r\nTRANSHEXEN2\r\nNOKTAN,MERKAPTAN\r\nAKROLEIN\r\nC6H12");
+    EXPECT_EQ(GroupOf(files, "108-38-3"),
+              "108-38-3\r\n 1,3-Xylol_C8H10_Xylene\r\n1,3XYLOL\r\nXYLENE\r\nC8H10");
+}
+
+TEST(MiniDatabase, LeavesAMadeUpKeyToTheSubstanceThatHasItAsAName) {
+    SourceFiles files = MiniTablesAnd("synonyms.tsv", "60-29-7\t0\tC4H10O\tDiethyl ether\tDiethylether\tKöl");
+    files.find("synonyms.tsv")->second += "540-67-0\t0\tC3H8O\tKoel\tEthylmethylether\tDiaethylaether\n";
+    EXPECT_EQ(GroupOf(files, "60-29-7"),
+              "60-29-7\r\n Diethylether_C4H10O_Diethyl ether\r\nDIETHYLETHER\r\nK\x99L\r\nC4H10O");
+    EXPECT_NE(GroupOf(files, "540-67-0").find("\r\nKOEL\r\n"), std::string::npos);
+    EXPECT_NE(GroupOf(files, "540-67-0").find("\r\nDIAETHYLAETHER\r\n"), std::string::npos);
 }
 
 // Broken bytes are refused, or they hit a place where any text may stand.

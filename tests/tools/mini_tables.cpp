@@ -41,6 +41,7 @@ SourceFiles MiniTables() {
                           "sConventional\tsConventional_source\n"
                           "64-19-7\tAcetic acid\t-432250\tCRC\t\t\t\t\n"
                           "7727-37-9\tNitrogen\t0\tCRC\t\t\t191.609\tCRC\n"},
+        {"accepted_deviations.tsv", "cas\tname\tcheck\tlimit\treason\n"},
         {"synonyms.tsv", "cas\tin_database\tformula\tname_en\tname_de\tsynonyms\n"
                          "64-19-7\t1\tC2H4O2\tAcetic acid\tEssigsäure\tEthansäure|Äthansäure|Essig-saeure\n"
                          "107-31-3\t0\tC2H4O2\tMethyl formate\tMethylformiat\tAmeisensäuremethylester\n"

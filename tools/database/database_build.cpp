@@ -4,6 +4,9 @@
 #include <cstdint>
 #include <limits>
 
+#include "database/accepted_deviations.h"
+#include "database/common_fluids.h"
+#include "database/coverage.h"
 #include "database/record_checks.h"
 #include "database/record_compiler.h"
 #include "database/synonym_file.h"
@@ -67,6 +70,7 @@ DatabaseBuild BuildDatabase(const SourceFiles& files) {
     std::vector<Table> tables;
     for (const TableLayout& layout : TableLayouts())
         tables.push_back(TableOf(files, layout.file, Columns(layout), refusals));
+    const Table acceptedTable = TableOf(files, acceptedFile, AcceptedColumns(), refusals);
     const Table synonyms = TableOf(files, synonymsFile, SynonymColumns(), refusals);
     // A table that cannot be read would only draw refusals of all the others.
     if (!refusals.empty())
@@ -75,7 +79,8 @@ DatabaseBuild BuildDatabase(const SourceFiles& files) {
     std::vector<CompiledSubstance> substances = CompileRecords(tables, bibliography, refusals);
     if (substances.empty() || substances.size() > std::numeric_limits<std::int16_t>::max())
         refusals.push_back({std::string(identityFile), 0, "", "1 to 32767 substances are possible"});
-    CheckRecords(substances, refusals);
+    build.checks =
+        CheckRecords(substances, AcceptedDeviations(acceptedTable, substances, refusals), refusals);
     const std::vector<SynonymGroup> groups = CompileSynonyms(substances, synonyms, refusals);
     if (!refusals.empty())
         return build;
@@ -83,12 +88,14 @@ DatabaseBuild BuildDatabase(const SourceFiles& files) {
     build.synonymFile = EncodeSynonyms(groups);
     build.substances = static_cast<int>(substances.size());
     build.names = static_cast<int>(groups.size());
+    build.coverage = CoverageText(substances, tables, build.names - build.substances);
+    build.incomplete = IncompleteFluids(substances);
     return build;
 }
 
 SourceFiles ReadSourceFiles(const std::filesystem::path& folder) {
     std::vector<std::string> names{std::string(versionFile), std::string(sourcesFile),
-                                   std::string(synonymsFile)};
+                                   std::string(acceptedFile), std::string(synonymsFile)};
     for (const TableLayout& layout : TableLayouts())
         names.emplace_back(layout.file);
     SourceFiles files;

@@ -2,32 +2,19 @@
 #include "database/record_checks.h"
 
 #include <cmath>
+#include <set>
 #include <string_view>
 
 #include "database/table_layout.h"
+#include "database/value_checks.h"
 #include "substance/record_fields.h"
 #include "substance/substance_loading.h"
-#include "thermo/vapour_pressure.h"
+#include "thermo/eos_constants.h"
 
 namespace orva {
 namespace {
 
 constexpr float missing = 1e-6F; // values up to here count as not given
-constexpr double normalPressure = 101.325;
-constexpr double pressureTolerance = 0.02;
-constexpr float rangeMargin = 5; // K
-
-struct VapourPressureTable {
-    std::string_view file, block, name;
-    int equation;
-};
-
-constexpr VapourPressureTable vapourPressureTables[] = {
-    {"wagner.tsv", "wagner", "Wagner", vpWagner},
-    {"frost_kalkwarf.tsv", "frostKalkwarf", "Frost/Kalkwarf", vpFrostKalkwarf},
-    {"antoine_low.tsv", "antoineLow", "Antoine", vpAntoineLow},
-    {"antoine_high.tsv", "antoineHigh", "Antoine", vpAntoineHigh},
-};
 
 float Value(const CompiledSubstance& substance, std::string_view field) {
     return substance.record.values[static_cast<std::size_t>(RecordPosition(field))];
@@ -43,22 +30,29 @@ float Limit(const CompiledSubstance& substance, const TableLayout& layout, std::
 
 class Checker {
 public:
-    Checker(CompiledSubstance& checked, Refusals& list) : substance(checked), refusals(list) {}
+    Checker(CompiledSubstance& checked, AcceptedDeviations& list, CheckResults& found, Refusals& refused)
+        : substance(checked), accepted(list), results(found), refusals(refused) {}
 
     void Check() {
         CheckConstants();
         CheckLimits();
         if (substance.refused)
             return;
-        SubstanceData data;
+        CheckSubject subject{substance, {}};
         SubstanceLoadResult result;
-        if (!FillFromRecord(substance.record, true, data, result)) {
+        if (!FillFromRecord(substance.record, true, subject.model.substance, result)) {
             Refuse(identityFile, "the record cannot be loaded");
             return;
         }
-        for (const VapourPressureTable& table : vapourPressureTables)
-            CheckVapourPressure(table, data);
-        CheckLiquidDensity(data.rhoLiquid);
+        subject.model.selection.eos = eosPengRobinson;
+        if (!DetermineEosParameters(subject.model, eosPengRobinson)) {
+            Refuse(constantsFile, "the constants of Peng/Robinson cannot be computed");
+            return;
+        }
+        for (std::size_t check = 0; check < ValueChecks().size(); ++check) {
+            for (Deviation& deviation : ValueChecks()[check].measure(subject))
+                Judge(check, std::move(deviation));
+        }
     }
 
 private:
@@ -93,42 +87,27 @@ private:
         }
     }
 
-    void CheckVapourPressure(const VapourPressureTable& table, const SubstanceData& data) {
-        const float Tb = Value(substance, "Tb");
-        if (!substance.Has(table.file) || Tb < missing)
-            return;
-        const std::string block(table.block);
-        if (Tb < Value(substance, block + ".Tlo") - rangeMargin
-            || Tb > Value(substance, block + ".Thi") + rangeMargin)
-            return;
-        const std::string equation = std::string(table.name) + " equation";
-        const VapourPressureResult p = VapourPressure(data, Tb, table.equation);
-        if (p.failed)
-            Refuse(table.file, equation + " has no value at Tb = " + NumberText(Tb) + " K");
-        else if (std::abs(p.value / normalPressure - 1) > pressureTolerance)
-            Refuse(table.file, equation + " gives " + FixedText(p.value, 3) + " kPa at Tb = " + NumberText(Tb)
-                                   + " K, not 101.325 kPa within 2 %");
-    }
-
-    void CheckLiquidDensity(const LiquidDensityBlock& block) {
-        constexpr std::string_view file = "rho_liquid.tsv";
-        if (!substance.Has(file))
-            return;
-        for (int T = block.Tlo; T <= block.Thi; ++T) {
-            if (!(LiquidDensityOf(block, T) > 0)) {
-                Refuse(file, "the liquid density is not positive at " + std::to_string(T) + " K");
-                return;
-            }
+    void Judge(std::size_t index, Deviation deviation) {
+        const ValueCheck& check = ValueChecks()[index];
+        const double size = std::abs(deviation.value);
+        Verdict verdict = Verdict::good;
+        // A value that is no number compares false and must not pass.
+        if (!(size <= check.refusal)) {
+            verdict = accepted.Accept(substance.cas, check.name, size) ? Verdict::accepted : Verdict::refused;
+        } else if (size > check.note) {
+            verdict = Verdict::note;
         }
+        // One fault of a row often fails several checks: the first one tells it.
+        if (verdict == Verdict::refused && refusedFiles.insert(deviation.file).second)
+            Refuse(deviation.file, RefusalReason(check, deviation));
+        results.Add(index, {verdict, substance.cas, substance.nameEnglish, substance.Line(deviation.file),
+                            std::move(deviation)});
     }
 
-    // Polynomial with pole and cube root, or DIPPR equation 105; the first coefficient tells which.
-    static double LiquidDensityOf(const LiquidDensityBlock& c, double T) {
-        const double tau = 1 - T / c.Tcr;
-        if (std::abs(c.r1) < missing)
-            return c.r2 / std::pow(static_cast<double>(c.r3), 1 + std::pow(tau, static_cast<double>(c.r4)));
-        const double rho = c.r1 + c.r2 * T + c.r3 * T * T + c.r4 * T * T * T + c.r5 / (c.r6 + T);
-        return std::abs(c.r7) >= missing && T < c.Tcr ? rho + c.r7 * std::cbrt(tau) : rho;
+    static std::string RefusalReason(const ValueCheck& check, const Deviation& deviation) {
+        if (!std::isfinite(deviation.value) || check.refusal == 0)
+            return deviation.text;
+        return deviation.text + " within " + LimitText(check, check.refusal);
     }
 
     void Refuse(std::string_view file, std::string reason) {
@@ -137,16 +116,24 @@ private:
     }
 
     CompiledSubstance& substance;
+    AcceptedDeviations& accepted;
+    CheckResults& results;
     Refusals& refusals;
+    std::set<std::string_view> refusedFiles; // by a check of values
 };
 
 } // namespace
 
-void CheckRecords(std::vector<CompiledSubstance>& substances, Refusals& refusals) {
+CheckResults CheckRecords(std::vector<CompiledSubstance>& substances, AcceptedDeviations accepted,
+                          Refusals& refusals) {
+    CheckResults results;
     for (CompiledSubstance& substance : substances) {
         if (!substance.refused)
-            Checker(substance, refusals).Check();
+            Checker(substance, accepted, results, refusals).Check();
     }
+    if (refusals.empty()) // with rows refused, what they would have needed is not known
+        accepted.RefuseUnused(refusals);
+    return results;
 }
 
 } // namespace orva

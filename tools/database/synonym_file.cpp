@@ -3,6 +3,7 @@
 
 #include <map>
 #include <set>
+#include <span>
 
 #include "database/table_layout.h"
 #include "substance/name_search.h"
@@ -25,6 +26,59 @@ std::vector<std::string> SplitSynonyms(std::string_view text) {
     return synonyms;
 }
 
+struct Letters {
+    std::string_view from, to;
+};
+
+constexpr Letters umlauts[] = {{"ä", "ae"}, {"ö", "oe"}, {"ü", "ue"}, {"Ä", "Ae"},
+                               {"Ö", "Oe"}, {"Ü", "Ue"}, {"ß", "ss"}};
+
+// Where older German writes K or Z, beyond what NormaliseName knows.
+constexpr Letters olderLetters[] = {
+    {"OCT", "OKT"},       {"MERCAPT", "MERKAPT"}, {"ACRYL", "AKRYL"},     {"ACROLEIN", "AKROLEIN"},
+    {"CAPR", "KAPR"},     {"CATECH", "KATECH"},   {"DECAL", "DEKAL"},     {"GLYCER", "GLYZER"},
+    {"SILICI", "SILIZI"}, {"SALICYL", "SALIZYL"}, {"ACENAPH", "AZENAPH"}, {"CYAN", "ZYAN"},
+};
+
+std::string Replaced(std::string text, std::span<const Letters> table) {
+    for (const auto& [from, to] : table) {
+        for (auto at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
+            text.replace(at, from.size(), to);
+    }
+    return text;
+}
+
+// A name on -e that is no acid ("-säure"), or one with "acid".
+bool LooksEnglish(std::string_view key) {
+    return (key.ends_with("E") && !key.ends_with("SÄURE")) || key.find("ACID") != key.npos;
+}
+
+// ETH that is not the end of METH begins with AE in old German.
+std::string OldEthyl(const std::string& key) {
+    std::string old;
+    for (std::size_t i = 0; i < key.size(); ++i) {
+        if (key.compare(i, 3, "ETH") == 0 && (i == 0 || key[i - 1] != 'M'))
+            old += 'A';
+        old += key[i];
+    }
+    return old;
+}
+
+// "BUTEN1" of "1-Buten", "CISBUTEN2" of "cis-2-Buten"; empty for other names.
+std::string LocantBehind(std::string_view name) {
+    std::string prefix;
+    for (const std::string_view start : {"cis-", "trans-"}) {
+        if (name.starts_with(start)) {
+            prefix = start;
+            name.remove_prefix(start.size());
+        }
+    }
+    if (name.size() < 3 || name[0] < '1' || name[0] > '9' || name[1] != '-'
+        || name.find_first_of("0123456789-,", 2) != name.npos)
+        return {};
+    return KeyOf(prefix + std::string(name.substr(2)) + name[0]);
+}
+
 class SynonymCompiler {
 public:
     explicit SynonymCompiler(Refusals& list) : refusals(list) {}
@@ -39,6 +93,8 @@ public:
             for (const std::string& part : NameParts(name))
                 AddName(groups.back(), part, place);
         }
+        for (const std::string& part : NameParts(record.nameGerman))
+            germanNames.emplace_back(groups.size() - 1, part);
     }
 
     void TakeRow(const Table& table, const TableRow& row) {
@@ -60,6 +116,24 @@ public:
             TakeNames(groups[found->second], table, row, place);
         else
             TakeNamedOnly(cas, table, row, place);
+    }
+
+    // Other spellings of the names, behind all names, from which they never take a key: what a keyboard
+    // without umlauts makes of them; of German names the old "DIAETHYLAETHER" and "BUTEN1"; K and Z for C.
+    void AddSpellings() {
+        for (const auto& [index, name] : names)
+            AddMadeUp(groups[index], KeyOf(Replaced(name, umlauts)));
+        for (const auto& [index, name] : germanNames) {
+            AddMadeUp(groups[index], KeyOf(Replaced(OldEthyl(KeyOf(name)), umlauts)));
+            AddMadeUp(groups[index], LocantBehind(name));
+        }
+        for (SynonymGroup& group : groups) {
+            const std::vector<std::string> keys = group.keys;
+            for (const std::string& key : keys) {
+                if (!LooksEnglish(key))
+                    AddMadeUp(group, Replaced(key, olderLetters));
+            }
+        }
     }
 
     // Behind all names, which a formula never takes from another substance.
@@ -98,6 +172,7 @@ private:
                           {}});
         CheckFields(groups.back(), place);
         AddName(groups.back(), groups.back().nameGerman, place);
+        germanNames.emplace_back(groups.size() - 1, groups.back().nameGerman);
         AddName(groups.back(), groups.back().nameEnglish, place);
         AddSynonyms(groups.back(), table, row, place);
     }
@@ -118,6 +193,12 @@ private:
     void AddSynonyms(SynonymGroup& group, const Table& table, const TableRow& row, const Place& place) {
         for (const std::string& synonym : SplitSynonyms(table.Cell(row, "synonyms")))
             AddName(group, synonym, place);
+    }
+
+    // A key that is made up gives way to one that a table names.
+    void AddMadeUp(SynonymGroup& group, const std::string& key) {
+        if (!key.empty() && owners.emplace(key, group.cas).second)
+            group.keys.push_back(key);
     }
 
     // The fields of the second line.
@@ -143,6 +224,7 @@ private:
             return;
         }
         const auto [owner, isNew] = owners.emplace(key, group.cas);
+        names.emplace_back(static_cast<std::size_t>(&group - groups.data()), name);
         if (isNew)
             group.keys.push_back(key);
         else if (owner->second != group.cas)
@@ -155,8 +237,9 @@ private:
 
     Refusals& refusals;
     std::map<std::string, std::size_t> byCas;
-    std::map<std::string, int> rows;           // CAS number -> line
-    std::map<std::string, std::string> owners; // search key -> CAS number
+    std::vector<std::pair<std::size_t, std::string>> names, germanNames; // index of the group, name
+    std::map<std::string, int> rows;                                     // CAS number -> line
+    std::map<std::string, std::string> owners;                           // search key -> CAS number
 };
 
 } // namespace
@@ -168,6 +251,7 @@ std::vector<SynonymGroup> CompileSynonyms(const std::vector<CompiledSubstance>& 
         compiler.TakeSubstance(substance);
     for (const TableRow& row : synonyms.rows)
         compiler.TakeRow(synonyms, row);
+    compiler.AddSpellings();
     compiler.AddFormulas(substances.size());
     return std::move(compiler.groups);
 }

@@ -18,8 +18,11 @@ struct SynonymGroup {
 };
 
 // The groups: first the substances of the database in record order, then those that are known by name only.
-// The keys are the names, the parts of the names behind ";", the synonyms of the table, and the formula where
-// it names one substance alone: among the substances of the database, or, for others, among all.
+// The keys are the names, the parts of the names behind ";", and the synonyms of the table; a name that
+// belongs to another substance already is refused. Then come, where no other substance has them, the names
+// with umlauts written out (ae, oe, ue, ss); the German names with AE for the E of old ethyl, and with the
+// locant behind ("Buten-1"); older spellings with K and Z ("Oktan", "Merkaptan"); and the formula where it
+// names one substance alone: among the substances of the database, or, for others, among all.
 std::vector<SynonymGroup> CompileSynonyms(const std::vector<CompiledSubstance>& substances,
                                           const Table& synonyms, Refusals& refusals);
 

@@ -40,6 +40,7 @@ int ColumnPosition(const ValueColumn& column);
 
 inline constexpr std::string_view identityFile = "identity.tsv";
 inline constexpr std::string_view constantsFile = "constants.tsv";
+inline constexpr std::string_view acceptedFile = "accepted_deviations.tsv";
 inline constexpr std::string_view synonymsFile = "synonyms.tsv";
 inline constexpr std::string_view sourcesFile = "sources.md";
 inline constexpr std::string_view versionFile = "version.txt";
