@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/theme.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QApplication>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 
 #include "shell/help_topics.h"
 #include "ui/help_request.h"
@@ -14,6 +18,7 @@ namespace {
 
 constexpr int ordinaryResultSize = 8;
 constexpr int darkLightness = 128;
+constexpr double narrowestDifference = 0.01; // pixels between two characters of one width
 
 // Mixes its text colour from the palette each time it is painted.
 class MutedTextLabel : public QLabel {
@@ -73,10 +78,24 @@ QColor MutedColour(const QPalette& palette) {
                             mix(text.blueF(), ground.blueF()));
 }
 
+bool IsFixedPitch(const QFont& font) {
+    const QFontMetricsF metrics(font);
+    const double width = metrics.horizontalAdvance(u'0');
+    const QString others = QStringLiteral("iWä=*.");
+    return std::all_of(others.begin(), others.end(), [&](QChar character) {
+        return std::abs(metrics.horizontalAdvance(character) - width) < narrowestDifference;
+    });
+}
+
 QFont FixedPitchFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::Monospace);
     font.setPointSizeF(QApplication::font().pointSizeF());
+    for (const char* family : {"DejaVu Sans Mono", "Liberation Mono", "Courier New"}) {
+        if (IsFixedPitch(font))
+            break;
+        font.setFamily(QLatin1String(family));
+    }
     return font;
 }
 

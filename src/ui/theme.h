@@ -20,8 +20,10 @@ QColor ReportColour(TextColour colour, const QPalette& palette);
 // Text of secondary rank: between text and ground.
 QColor MutedColour(const QPalette& palette);
 
-// The font of lists and reports, whose columns must stand under each other.
+// The font of lists and reports, whose columns must stand under each other: that of the desktop, if its
+// characters are really of one width.
 QFont FixedPitchFont();
+bool IsFixedPitch(const QFont& font);
 
 // Shows text, colour and weight. Sizes count from 8 points, the size of ordinary text.
 void ShowResultLabel(QLabel& label, const ResultLabel& content);

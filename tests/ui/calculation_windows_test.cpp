@@ -119,7 +119,7 @@ TEST_F(CalculationWindows, ReportCanBeSelectedAndCopiedButNotChanged) {
     list->copy();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), before);
     EXPECT_FALSE(before.contains('\r'));
-    EXPECT_TRUE(list->fontInfo().fixedPitch());
+    EXPECT_TRUE(IsFixedPitch(list->font()));
 }
 
 TEST_F(CalculationWindows, ControlsThatHaveNothingBehindThemAreDisabled) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "text/columns.h"
+#include "ui/theme.h"
 #include "ui/ui_fixture.h"
 
 namespace orva::test {
@@ -35,7 +36,7 @@ TEST_F(SubstanceWindow, CountsTheSubstancesInItsTitleAndListsThemAll) {
     EXPECT_EQ(first.left(5), "   1 ");
     EXPECT_EQ(StoffListe->CurrentRow(), 0);
     EXPECT_EQ(NameCombo->currentText(), Name(0));
-    EXPECT_TRUE(StoffListe->fontInfo().fixedPitch());
+    EXPECT_TRUE(IsFixedPitch(StoffListe->font()));
 }
 
 TEST_F(SubstanceWindow, TypedNumberSelectsItsRow) {
