@@ -184,6 +184,11 @@ TEST_F(CalculationWindows, TheInversionMovesThePointOfItsResult) {
     output = Find<frmCalcOut>();
     Enter("300", "100");
     EXPECT_TRUE(In<QPushButton>(output, "cmdIsoCalc")->isEnabled());
+    In<QLineEdit>(input, "par(1)")->setText("0");
+    ClickButton(output, "cmdIsoCalc");
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].text, "noch keine p- oder T-Vorgabe!");
+    In<QLineEdit>(input, "par(1)")->setText("100");
     ClickButton(output, "cmdIsoCalc");
     auto* inversion = Wait<frmIsoCalc>();
     ASSERT_NE(inversion, nullptr);

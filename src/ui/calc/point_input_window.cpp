@@ -137,6 +137,13 @@ bool frmParinput::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
+bool frmParinput::ShowsZero() const {
+    const auto isZero = [](const NumberField* field) {
+        return !field->isHidden() && field->text().trimmed() == QStringLiteral("0");
+    };
+    return isZero(fields[0]) || isZero(fields[1]);
+}
+
 void frmParinput::CalculateNow() {
     TakeTexts();
     if (const auto refused = input.Accept()) {

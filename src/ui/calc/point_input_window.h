@@ -26,6 +26,9 @@ public:
     // The options changed the units of a volume.
     void FollowUnits();
 
+    // T or p stands at 0, typed but not calculated.
+    bool ShowsZero() const;
+
 signals:
     // The numbers stand in row 0 of the data series.
     void Accepted();

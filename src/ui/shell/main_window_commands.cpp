@@ -343,6 +343,11 @@ void mdiORVA::FollowResult() {
 void mdiORVA::OpenIsoCalc() {
     if (resultWindow == nullptr)
         return;
+    if (inputWindow != nullptr && inputWindow->ShowsZero()) {
+        session.dialogs.Show(
+            {"Ausführung nicht möglich", "noch keine p- oder T-Vorgabe!", MessageIcon::Exclamation});
+        return;
+    }
     CloseForms({"frmIsoCalc"});
     auto* form = new frmIsoCalc(session, busy, resultWindow);
     connect(form, &frmIsoCalc::WorkingPointChanged, resultWindow, &frmCalcOut::Refresh);
