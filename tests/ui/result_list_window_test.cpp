@@ -91,7 +91,7 @@ TEST_F(ResultListWindow, WritesWhatWasSteppedThrough) {
     QStringList numbers;
     for (const QString& line : lines.mid(14))
         if (line.startsWith(u' ') && line.size() > 1 && line[1].isDigit())
-            numbers << line.left(30);
+            numbers << line.left(31);
     EXPECT_EQ(numbers, (QStringList{" 1        300        100       ", " 3        310        100       "}));
 }
 

@@ -17,6 +17,7 @@ constexpr double fontSize = 10;         // points, where the paper is wide enoug
 constexpr int charactersAcross = 90;    // of the widest line
 constexpr double singleRuleWidth = 0.5; // points
 constexpr double doubleRuleWidth = 1.2;
+constexpr QMarginsF paperMargins(20, 15, 15, 15); // mm
 
 QFont ListFont(double size) {
     QFont font(QStringLiteral("COURIER"));
@@ -49,7 +50,7 @@ public:
         }
         if (line.width > 0)
             DrawRule(line);
-        // Every character has its place, whatever the widths of the typeface that stands in for Courier.
+        // Columns keep their places whatever typeface stands in for Courier.
         for (const ListPiece& piece : line.pieces)
             painter.drawText(QPointF(WidthOf(metrics, piece.column), y + metrics.ascent()), ToQt(piece.text));
         y += metrics.lineSpacing();
@@ -94,6 +95,7 @@ bool DrawResultList(const std::vector<ListLine>& lines, QPrinter& printer) {
 bool PrintResultList(const std::vector<ListLine>& lines, Dialogs& dialogs, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(QStringLiteral("ORVA-Ergebnisliste"));
+    printer.setPageMargins(paperMargins, QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, parent);
     if (dialog.exec() != QDialog::Accepted)
         return false;
