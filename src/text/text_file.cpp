@@ -2,6 +2,7 @@
 #include "text/text_file.h"
 
 #include <array>
+#include <cerrno>
 #include <fstream>
 #include <random>
 #include <system_error>
@@ -24,21 +25,34 @@ fs::path TemporaryBeside(const fs::path& path) {
     return temporary;
 }
 
-bool WriteBytes(const fs::path& path, std::string_view bytes) {
+// The reason of the last stream operation. The standard library leaves it in errno, if anywhere.
+std::error_code LastError() {
+    return {errno != 0 ? errno : EIO, std::generic_category()};
+}
+
+std::error_code WriteBytes(const fs::path& path, std::string_view bytes) {
+    errno = 0;
     std::ofstream stream(path, std::ios::binary | std::ios::trunc);
+    if (!stream)
+        return LastError();
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     stream.flush();
-    const bool written = stream.good();
+    if (!stream)
+        return LastError();
     stream.close();
-    return written && !stream.fail();
+    return stream.fail() ? LastError() : std::error_code();
 }
 
 // A new name may be written; of an old file the write permission counts, which a change of names would evade.
-bool MayReplace(const fs::file_status& status) {
+std::error_code RefusalToReplace(const fs::file_status& status) {
     constexpr fs::perms anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if (status.type() == fs::file_type::not_found)
-        return true;
-    return status.type() == fs::file_type::regular && (status.permissions() & anyWrite) != fs::perms::none;
+        return {};
+    if (status.type() == fs::file_type::directory)
+        return std::make_error_code(std::errc::is_a_directory);
+    if (status.type() != fs::file_type::regular || (status.permissions() & anyWrite) == fs::perms::none)
+        return std::make_error_code(std::errc::permission_denied);
+    return {};
 }
 
 } // namespace
@@ -70,24 +84,28 @@ std::optional<std::string> ReadFile(const fs::path& path) {
 }
 
 bool WriteFile(const fs::path& path, std::string_view bytes) {
+    return !TryWriteFile(path, bytes);
+}
+
+std::error_code TryWriteFile(const fs::path& path, std::string_view bytes) {
     std::error_code ignored;
     // The file behind a link is replaced, not the link. A link to nowhere gives an empty path.
     const fs::path target = fs::is_symlink(path, ignored) ? fs::canonical(path, ignored) : path;
     const fs::file_status status = fs::status(target, ignored);
-    if (!target.has_filename() || !MayReplace(status))
-        return false;
+    if (!target.has_filename())
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    if (const std::error_code refusal = RefusalToReplace(status))
+        return refusal;
     const fs::path temporary = TemporaryBeside(target);
-    bool done = WriteBytes(temporary, bytes);
-    if (done) {
+    std::error_code error = WriteBytes(temporary, bytes);
+    if (!error) {
         if (fs::exists(status))
             fs::permissions(temporary, status.permissions(), ignored);
-        std::error_code error;
         fs::rename(temporary, target, error);
-        done = !error;
     }
-    if (!done)
+    if (error)
         fs::remove(temporary, ignored);
-    return done;
+    return error;
 }
 
 } // namespace orva

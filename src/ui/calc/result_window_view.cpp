@@ -9,6 +9,9 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "calc/result_list.h"
+#include "text/paths.h"
+#include "ui/calc/result_list_printer.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -184,7 +187,7 @@ QLayout* frmCalcOut::ButtonRow() {
         row->addWidget(button);
     row->addStretch(1);
     QPushButton* close = AddButton("cmdCalc_OK", ToQt(model.CloseText()));
-    connect(close, &QPushButton::clicked, this, &QWidget::close);
+    connect(close, &QPushButton::clicked, this, &frmCalcOut::Finish);
     row->addWidget(close);
     return row;
 }
@@ -241,6 +244,32 @@ void frmCalcOut::Step(StepResult step) {
         return;
     }
     Calculate();
+}
+
+// False when the user would rather stay.
+bool frmCalcOut::PutOut() {
+    ResultList list = MakeResultList(session.Calculation(), model.BatchResults());
+    list.printFunctions = model.PrintFunctions();
+    list.title = model.Title();
+    list.date = session.machine.ShortDate();
+    list.batchFile = session.state.batchFile;
+    if (model.Output() == ResultOutput::Printer)
+        return PrintResultList(ResultListForPaper(list), session.dialogs, this);
+    const std::optional<std::string> file =
+        session.dialogs.ChooseFile({"ORVA-Ergebnisliste speichern unter ...", "Ergebnis-Datei (*.LST)|*.LST",
+                                    PathText(session.machine.WritableFolder()), "", ".LST", true});
+    if (file)
+        WriteResultList(*file, list, session.machine, session.dialogs);
+    return file.has_value();
+}
+
+void frmCalcOut::Finish() {
+    if (model.OutputVisible() && model.Output() != ResultOutput::None && !PutOut())
+        return;
+    model.SetOutput(ResultOutput::None);
+    ShowControls();
+    close();
+    emit Finished();
 }
 
 void frmCalcOut::keyPressEvent(QKeyEvent* event) {

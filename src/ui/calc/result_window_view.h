@@ -39,6 +39,8 @@ signals:
     void DiagnosisWanted();
     // A new result stands.
     void Calculated();
+    // `cmdCalc_OK` has closed this window; those that belong to the calculation follow.
+    void Finished();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -59,6 +61,8 @@ private:
     void ShowProtocol();
     void RecordResult();
     void CloseProtocol();
+    bool PutOut();
+    void Finish();
     void ConnectControls();
 
     QLabel *par1, *par2, *co1, *co2, *statusZeile;

@@ -277,6 +277,9 @@ void mdiORVA::ShowResult() {
     connect(resultWindow, &frmCalcOut::IsoCalcWanted, this, &mdiORVA::OpenIsoCalc);
     connect(resultWindow, &frmCalcOut::DiagnosisWanted, this, &mdiORVA::OpenDiagnosis);
     connect(resultWindow, &frmCalcOut::Calculated, this, &mdiORVA::FollowResult);
+    connect(resultWindow, &frmCalcOut::Finished, this, [this] {
+        CloseForms({"frmParinput", "frmReferenz", "frmKessel", "frmIsoCalc", "frmManuInput"});
+    });
     ShowForm(resultWindow, Qt::NonModal);
     resultWindow->Calculate();
 }
