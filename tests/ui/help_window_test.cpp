@@ -103,7 +103,7 @@ TEST_F(Help, OpensOnTheRightPageByF1InEveryWindow) {
     auto* input = StartTP();
     ASSERT_NE(input, nullptr);
     EXPECT_EQ(PlaceByF1(input), "point-input.html");
-    EXPECT_EQ(PlaceByF1(Find<frmCalcOut>()), "result-window.html#report");
+    EXPECT_EQ(PlaceByF1(Find<frmCalcOut>()), "report.html");
     Find<frmCalcOut>()->close();
 
     Choose("mnuGraf(0)", "mnuGraf_sub_cut(1)");
