@@ -99,6 +99,9 @@ TEST(HelpTopics, FindControlsOfArraysByTheirNameAndLeaveUnknownNamesAlone) {
     EXPECT_EQ(PlaceOf("", "mnuCalc(5)"), "calculations.html#equilibrium");
     EXPECT_EQ(PlaceOf("", "mnuCalc(16)"), "vessel.html#");
     EXPECT_EQ(PlaceOf("", "mnuCalc_sub_sub_database(1)"), "calculations.html#database");
+    EXPECT_EQ(PlaceOf("", "mnuGraf_sub_cut(1)"), "diagrams.html#isotherm");
+    EXPECT_EQ(PlaceOf("", "mnuGraf_sub_cut(5)"), "diagrams.html#sections");
+    EXPECT_EQ(PlaceOf("", "mnuGraf_sub_HS(1)"), "diagrams.html#pairs");
     EXPECT_EQ(PlaceOf("frmOther", "Hilfe"), "") << "the name belongs to another window";
     EXPECT_EQ(HelpTopicOf("frmQModell", "nothing"), nullptr);
     EXPECT_EQ(HelpTopicOf("", ""), nullptr);
