@@ -169,7 +169,7 @@ private:
         Save(&byHand, "virial-input");
         byHand.close();
         Click(models, "OKModell");
-        window.resize(860, 560);
+        window.resize(1060, 560);
         Save(&window, "main-window");
     }
 
