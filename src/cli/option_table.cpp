@@ -103,7 +103,7 @@ constexpr OptionRow rows[] = {
                              [](Request& r, V v) { r.requestsFile = v.text; }),
                         "FILE")),
 
-    Required(Integer("kind", point, 1, 24, "number of the calculation; 3: T, p => rho",
+    Required(Integer("kind", point, 1, 24, "number of the calculation: 1 to 11, 13 to 22, 24; 3: T, p => rho",
                      [](Request& r, V v) { r.point.kind = Whole(v); })),
     Number("T", point, "temperature, K", [](Request& r, V v) { r.point.T = First(v); }),
     Number("p", point, "pressure, kPa", [](Request& r, V v) { r.point.p = First(v); }),

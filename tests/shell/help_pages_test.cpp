@@ -144,6 +144,11 @@ TEST(HelpSearchOfThePages, PutsThePageOfTheSubjectFirst) {
                                       {"exergie", "exergy.html"},
                                       {"normierung", "reference.html"},
                                       {"stoffwahl", "substance-window.html"},
+                                      {"behälter", "vessel.html"},
+                                      {"iso-rechner", "inversion.html"},
+                                      {"diagnose", "diagnosis.html"},
+                                      {"protokoll", "protocol.html"},
+                                      {"berechnungsarten", "calculations.html"},
                                       {"dampfdruck", "vapour-pressure.html"}}) {
         const std::vector<HelpHit> hits = library.Search(HelpLanguage::German, query);
         ASSERT_FALSE(hits.empty()) << query;

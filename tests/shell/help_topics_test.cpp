@@ -63,7 +63,7 @@ TEST(HelpTopics, AnswerEveryHelpControlOfTheDialogs) {
     EXPECT_EQ(PlaceOf("frmReferenz", "cmdRefHelp"), "reference.html#");
     EXPECT_EQ(PlaceOf("frmOptions", "cmdReferenzHelp"), "reference.html#");
     EXPECT_EQ(PlaceOf("frmOptions", "cmdRealBreichHelp"), "options.html#real-range");
-    EXPECT_EQ(PlaceOf("frmIsoCalc", "cmdIsoHelp"), "not-yet.html#");
+    EXPECT_EQ(PlaceOf("frmIsoCalc", "cmdIsoHelp"), "inversion.html#");
 }
 
 TEST(HelpTopics, AnswerEveryWindow) {
@@ -78,6 +78,9 @@ TEST(HelpTopics, AnswerEveryWindow) {
                                        {"frmCalcIn", "global-partial.html"},
                                        {"frmReferenz", "reference.html"},
                                        {"frmOptions", "options.html"},
+                                       {"frmKessel", "vessel.html"},
+                                       {"frmIsoCalc", "inversion.html"},
+                                       {"frmCEOSDiagnose", "diagnosis.html"},
                                        {"frmGraph2D", "diagram-window.html"},
                                        {"frmTpVSInputBox", "value-input.html"},
                                        {"frmCoord", "diagram-window.html"},
@@ -91,8 +94,14 @@ TEST(HelpTopics, AnswerEveryWindow) {
 
 TEST(HelpTopics, FindControlsOfArraysByTheirNameAndLeaveUnknownNamesAlone) {
     EXPECT_EQ(PlaceOf("frmQModell", "PriorOpt(1)"), "model-window.html#priority");
-    EXPECT_EQ(PlaceOf("", "mnuCalc(2)"), "point-input.html#");
-    EXPECT_EQ(PlaceOf("", "mnuCalc(5)"), "equilibrium.html#");
+    EXPECT_EQ(PlaceOf("frmCalcOut", "ResPlus(2)"), "result-window.html#extended");
+    EXPECT_EQ(PlaceOf("", "mnuCalc(2)"), "calculations.html#states");
+    EXPECT_EQ(PlaceOf("", "mnuCalc(5)"), "calculations.html#equilibrium");
+    EXPECT_EQ(PlaceOf("", "mnuCalc(16)"), "vessel.html#");
+    EXPECT_EQ(PlaceOf("", "mnuCalc_sub_sub_database(1)"), "calculations.html#database");
+    EXPECT_EQ(PlaceOf("", "mnuGraf_sub_cut(1)"), "diagrams.html#isotherm");
+    EXPECT_EQ(PlaceOf("", "mnuGraf_sub_cut(5)"), "diagrams.html#sections");
+    EXPECT_EQ(PlaceOf("", "mnuGraf_sub_HS(1)"), "diagrams.html#pairs");
     EXPECT_EQ(PlaceOf("frmOther", "Hilfe"), "") << "the name belongs to another window";
     EXPECT_EQ(HelpTopicOf("frmQModell", "nothing"), nullptr);
     EXPECT_EQ(HelpTopicOf("", ""), nullptr);
@@ -119,6 +128,17 @@ TEST(HelpTopics, MenuCommandsInTheTableExist) {
                 return row.name == name || CommandKey(row.name, row.index) == name;
             })) << name;
         }
+    }
+}
+
+// Every entry of the calculation menu that does something leads to a page of its own subject.
+TEST(HelpTopics, ExplainEveryCalculation) {
+    for (const CommandRow& row : CommandTable()) {
+        if (row.action != CommandAction::Calculate)
+            continue;
+        const std::string place = PlaceOf("", CommandKey(row.name, row.index));
+        EXPECT_TRUE(place.starts_with("calculations.html#") || place == "vessel.html#") << row.text;
+        EXPECT_NE(place, "calculations.html#") << row.text;
     }
 }
 

@@ -4,10 +4,16 @@
 
 #include "ui/ui_fixture.h"
 
+#include "ui/calc/diagnosis_window.h"
+#include "ui/calc/iso_window.h"
+#include "ui/calc/method_window.h"
+#include "ui/calc/reference_window.h"
+#include "ui/calc/vessel_window.h"
 #include "ui/diagrams/coordinate_input_view.h"
 #include "ui/diagrams/diagram_window_view.h"
 #include "ui/diagrams/value_input_view.h"
 #include "ui/shell/help_window.h"
+#include "ui/shell/options_window.h"
 #include "ui/substance/virial_input_window.h"
 
 namespace orva::test {
@@ -103,7 +109,7 @@ TEST_F(Help, OpensOnTheRightPageByF1InEveryWindow) {
     auto* input = StartTP();
     ASSERT_NE(input, nullptr);
     EXPECT_EQ(PlaceByF1(input), "point-input.html");
-    EXPECT_EQ(PlaceByF1(Find<frmCalcOut>()), "result-window.html#report");
+    EXPECT_EQ(PlaceByF1(Find<frmCalcOut>()), "report.html");
     Find<frmCalcOut>()->close();
 
     Choose("mnuGraf(0)", "mnuGraf_sub_cut(1)");
@@ -126,13 +132,80 @@ TEST_F(Help, OpensOnTheRightPageByF1InEveryWindow) {
     EXPECT_EQ(inLimits, "diagram-window.html#coordinates");
 }
 
+TEST_F(Help, OpensByF1OrByItsButtonInTheWindowsOfTheCalculations) {
+    AcceptModels("n-Butan");
+    Choose("mnuCalcMain", "mnuCalc(5)");
+    auto* method = Wait<frmCalcIn>();
+    ASSERT_NE(method, nullptr);
+    EXPECT_EQ(PlaceByF1(method), "global-partial.html#window");
+    ClickButton(method, "OK");
+    auto* input = Wait<frmParinput>();
+    ASSERT_NE(input, nullptr);
+    In<QLineEdit>(input, "par(0)")->setText("350");
+    ClickButton(input, "cmdParameter_OK");
+    ClickButton(Find<frmCalcOut>(), "cmdCEOSDiagnose");
+    auto* diagnosis = Wait<frmCEOSDiagnose>();
+    ASSERT_NE(diagnosis, nullptr);
+    EXPECT_EQ(PlaceByF1(diagnosis), "diagnosis.html");
+    Find<frmCalcOut>()->close();
+
+    Choose("mnuCalcMain", "mnuCalc(11)");
+    input = Wait<frmParinput>();
+    ASSERT_NE(input, nullptr);
+    In<QLineEdit>(input, "par(0)")->setText("350");
+    In<QLineEdit>(input, "par(1)")->setText("100");
+    ClickButton(input, "cmdParameter_OK");
+    ClickButton(Find<frmCalcOut>(), "cmdIsoCalc");
+    auto* inversion = Wait<frmIsoCalc>();
+    ASSERT_NE(inversion, nullptr);
+    EXPECT_EQ(PlaceByF1(inversion), "inversion.html");
+    Click(In<QToolButton>(inversion, "cmdIsoHelp"));
+    EXPECT_EQ(Place(), "inversion.html");
+    CloseHelp();
+    Find<frmCalcOut>()->close();
+
+    Choose("mnuCalcMain", "mnuCalc(15)");
+    input = Wait<frmParinput>();
+    ASSERT_NE(input, nullptr);
+    In<QLineEdit>(input, "par(0)")->setText("0.1");
+    In<QLineEdit>(input, "par(1)")->setText("20");
+    In<QLineEdit>(input, "par(3)")->setText("300");
+    ClickButton(input, "cmdParameter_OK");
+    auto* vessel = Wait<frmKessel>();
+    ASSERT_NE(vessel, nullptr);
+    EXPECT_EQ(PlaceByF1(vessel), "vessel.html#picture");
+    Find<frmCalcOut>()->close();
+}
+
+TEST_F(Help, OpensByF1AndByItsButtonsInOptionsAndReference) {
+    AcceptModels("n-Butan");
+    Command("mnuOptions")->trigger();
+    auto* options = Wait<frmOptions>();
+    ASSERT_NE(options, nullptr);
+    EXPECT_EQ(PlaceByF1(options), "options.html#mode");
+    for (const auto& [button, place] :
+         {std::pair{"cmdRealBreichHelp", "options.html#real-range"}, {"cmdReferenzHelp", "reference.html"}}) {
+        Click(In<QToolButton>(options, button));
+        EXPECT_EQ(Place(), place);
+        CloseHelp();
+    }
+    ClickButton(options, "Command1");
+    auto* reference = Wait<frmReferenz>();
+    ASSERT_NE(reference, nullptr);
+    EXPECT_EQ(PlaceByF1(reference), "reference.html#kinds");
+    Click(In<QToolButton>(reference, "cmdRefHelp"));
+    EXPECT_EQ(Place(), "reference.html");
+    CloseHelp();
+    reference->close();
+}
+
 TEST_F(Help, OpensByF1OnTheCommandOfAnOpenMenuAndOnItself) {
     AcceptModels("n-Butan");
     auto* menu = window->findChild<QMenu*>("mnuCalcMain");
     menu->popup(window->mapToGlobal(QPoint(20, 40)));
     menu->setActiveAction(Command("mnuCalc(2)"));
     QTest::keyClick(menu, Qt::Key_F1);
-    EXPECT_EQ(Place(), "point-input.html");
+    EXPECT_EQ(Place(), "calculations.html#states");
     EXPECT_FALSE(menu->isVisible());
     QTest::keyClick(Browser(Find<HelpWindow>()), Qt::Key_F1);
     EXPECT_EQ(Place(), "help-window.html");

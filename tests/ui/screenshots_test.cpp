@@ -251,7 +251,7 @@ TEST_P(Screenshots, OfTheRoadShowTheirTextsWhole) {
     In<QLineEdit>(help, "helpSearch")->setText("Dampfdruck");
     help->Open(*FindHelpTopic("vaporisation.html", ""));
     Shoot(help, "33-helpWindow-Suche");
-    help->Open(*FindHelpTopic("result-window.html", "report"));
+    help->Open(*FindHelpTopic("report.html", "functions"));
     Shoot(help, "34-helpWindow-Bericht");
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Opens the windows of the workbench as a user does, for n-butane, and saves what they show as the pictures
-// of the help pages: orva-help-pictures INSTALLATION_FOLDER OUTPUT_FOLDER. Exit status 1 if a picture fails.
+// of the help pages and of the README: orva-help-pictures INSTALLATION_FOLDER OUTPUT_FOLDER SCREENSHOT_FILE.
+// Exit status 1 if a picture fails.
 #include <cstdio>
 #include <filesystem>
 #include <functional>
@@ -10,7 +11,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -27,9 +30,10 @@ using namespace orva;
 
 class FolderMachine : public Machine {
 public:
-    explicit FolderMachine(std::filesystem::path installation) : folder(std::move(installation)) {}
+    FolderMachine(std::filesystem::path installation, std::filesystem::path written)
+        : folder(std::move(installation)), writable(std::move(written)) {}
     std::filesystem::path InstallationFolder() const override { return folder; }
-    std::filesystem::path WritableFolder() const override { return std::filesystem::temp_directory_path(); }
+    std::filesystem::path WritableFolder() const override { return writable; }
     bool DecimalComma() const override { return false; }
     // A picture must not change with the day it is made.
     std::chrono::year_month_day Today() const override {
@@ -38,7 +42,7 @@ public:
     std::string ShortDate() const override { return "01.01.2026"; }
 
 private:
-    std::filesystem::path folder;
+    std::filesystem::path folder, writable;
 };
 
 // A user who opens one file and is asked nothing else.
@@ -56,17 +60,29 @@ private:
 
 class Photographer {
 public:
-    Photographer(const Session& records, mdiORVA& mainWindow, Dialogs& boxes, QString outputFolder)
-        : session(records), window(mainWindow), dialogs(boxes), folder(std::move(outputFolder)) {}
+    Photographer(const Session& records, mdiORVA& mainWindow, Dialogs& boxes, QString outputFolder,
+                 QString screenshotFile)
+        : session(records), window(mainWindow), dialogs(boxes), folder(std::move(outputFolder)),
+          screenshot(std::move(screenshotFile)), desktop(1240, 830) {
+        desktop.fill(QColor(206, 214, 224));
+    }
 
     bool TakeAll() {
         TakeChoices();
+        TakeSettings();
         TakePoint();
         TakeDiagram();
+        TakeEquilibrium();
+        TakeFunctions();
+        TakeVessel();
+        Write(desktop, screenshot);
         return good;
     }
 
 private:
+    static constexpr int smallestFile = 0; // quality of PNG: the longest search for a short file
+    static constexpr int titleHeight = 28;
+
     static void Settle() {
         for (int i = 0; i < 5; ++i) {
             QApplication::processEvents();
@@ -93,8 +109,26 @@ private:
         if (QWidget* focused = QApplication::focusWidget())
             focused->clearFocus();
         Settle();
-        if (!widget->grab().save(QStringLiteral("%1/%2.png").arg(folder, QLatin1String(name)), "PNG"))
-            Fail(name, "cannot be written");
+        Write(widget->grab(), QStringLiteral("%1/%2.png").arg(folder, QLatin1String(name)));
+    }
+
+    void Write(const QPixmap& picture, const QString& file) {
+        if (!picture.save(file, "PNG", smallestFile))
+            Fail(qPrintable(file), "cannot be written");
+    }
+
+    // A window as it stands on a desktop, with its title.
+    void Arrange(QWidget* form, QPoint place) {
+        Settle();
+        const QPixmap picture = form->grab();
+        QPainter painter(&desktop);
+        const QRect title(place, QSize(picture.width(), titleHeight));
+        painter.fillRect(title, QColor(70, 78, 90));
+        painter.setPen(Qt::white);
+        painter.drawText(title.adjusted(10, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, form->windowTitle());
+        painter.drawPixmap(title.bottomLeft() + QPoint(0, 1), picture);
+        painter.setPen(QColor(70, 78, 90));
+        painter.drawRect(title.adjusted(0, 0, -1, picture.height()));
     }
 
     void Click(QWidget* form, const char* name) {
@@ -135,8 +169,44 @@ private:
         Save(&byHand, "virial-input");
         byHand.close();
         Click(models, "OKModell");
-        window.resize(860, 560);
+        window.resize(1060, 560);
         Save(&window, "main-window");
+    }
+
+    void TakeSettings() {
+        window.RunCommand(FindCommand("mnuOptions"));
+        QWidget* options = Form("frmOptions");
+        Save(options, "options-window");
+        Click(options, "Command1");
+        QWidget* reference = Form("frmReferenz");
+        Save(reference, "reference-window");
+        Click(reference, "Esc");
+        window.RunCommand(FindCommand("mnuHilfe_Tip"));
+        QWidget* tips = Form("frmTip");
+        Click(tips, "cmdTipsZeigen");
+        SeekFirstTip(tips);
+        Save(tips, "tips-window");
+        tips->close();
+    }
+
+    // The window begins with any tip; a picture must not change with it.
+    void SeekFirstTip(QWidget* tips) {
+        auto* text = tips->findChild<QLabel*>(QStringLiteral("lblTip"));
+        if (text == nullptr)
+            return Fail("lblTip", "is not there");
+        for (int i = 0; i < 30 && !text->text().startsWith(QStringLiteral("Jede Arbeit")); ++i)
+            Click(tips, "cmdNextTip");
+    }
+
+    // Enters T and p, as far as the calculation asks for them, and returns the window of the result.
+    QWidget* Calculate(const char* T, const char* p) {
+        QWidget* input = Form("frmParinput");
+        if (T != nullptr)
+            Type(input, "par(0)", T);
+        if (p != nullptr)
+            Type(input, "par(1)", p);
+        Click(input, "cmdParameter_OK");
+        return Form("frmCalcOut");
     }
 
     void TakePoint() {
@@ -151,6 +221,64 @@ private:
         Save(result, "result-window");
         input->close();
         result->close();
+    }
+
+    void TakeEquilibrium() {
+        window.RunCommand(FindCommand("mnuCalc", 5));
+        QWidget* method = Form("frmCalcIn");
+        Click(method, "opt_glob(1)");
+        Save(method, "method-window");
+        Click(method, "opt_glob(0)");
+        Click(method, "OK");
+        QWidget* result = Calculate("350", nullptr);
+        result->resize(result->minimumSizeHint().width(), 720);
+        Save(result, "equilibrium-result");
+        Click(result, "cmdProtokoll");
+        Arrange(result, {510, 60});
+        Click(result, "cmdCEOSDiagnose");
+        QWidget* diagnosis = Form("frmCEOSDiagnose");
+        Save(diagnosis, "diagnosis-window");
+        diagnosis->close();
+        CloseResult();
+    }
+
+    void CloseResult() {
+        Form("frmParinput")->close();
+        Form("frmCalcOut")->close();
+    }
+
+    void TakeFunctions() {
+        window.RunCommand(FindCommand("mnuCalc", 11));
+        QWidget* result = Calculate("300", "100");
+        Click(result, "cmdProtokoll");
+        Calculate("350", "100");
+        Click(result, "cmdProtokoll");
+        if (auto* frame = result->findChild<QWidget*>(QStringLiteral("fraProtokoll")))
+            Save(frame, "protocol-frame");
+        Click(result, "cmdIsoCalc");
+        QWidget* inversion = Form("frmIsoCalc");
+        Type(inversion, "txtTpVorgabe", "500");
+        Click(inversion, "cmdCalc");
+        Save(inversion, "inversion-window");
+        inversion->close();
+        CloseResult();
+    }
+
+    void TakeVessel() {
+        window.RunCommand(FindCommand("mnuCalc", 15));
+        QWidget* input = Form("frmParinput");
+        Type(input, "par(0)", "0.1");
+        Type(input, "par(1)", "20");
+        Type(input, "par(3)", "300");
+        Save(input, "vessel-input");
+        Click(input, "cmdParameter_OK");
+        QWidget* vessel = Form("frmKessel");
+        vessel->resize(340, 450);
+        Save(vessel, "vessel-window");
+        vessel->resize(290, 370);
+        Arrange(vessel, {190, 410});
+        vessel->close();
+        Form("frmCalcOut")->close();
     }
 
     void Draw(QWidget* box, const char* value, const char* button) {
@@ -184,6 +312,7 @@ private:
         Save(chart, "p-v-isotherms");
         Trigger(graph, "mnuMarkCritPointCalc");
         Save(graph, "diagram-window");
+        Arrange(graph, {20, 20});
         Trigger(graph, "mnuDelTotal");
         SetLimits(graph, [this](QWidget* limits) {
             Save(limits, "coordinates");
@@ -202,7 +331,8 @@ private:
     const Session& session;
     mdiORVA& window;
     Dialogs& dialogs;
-    QString folder;
+    QString folder, screenshot;
+    QPixmap desktop; // some windows together
     bool good = true;
 };
 
@@ -210,11 +340,11 @@ private:
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: orva-help-pictures INSTALLATION_FOLDER OUTPUT_FOLDER\n");
+    if (argc != 4) {
+        std::fprintf(stderr, "usage: orva-help-pictures INSTALLATION_FOLDER OUTPUT_FOLDER SCREENSHOT_FILE\n");
         return 2;
     }
-    const QTemporaryDir settings; // the settings of the user stay out of it
+    const QTemporaryDir settings, written; // the settings and files of the user stay out of it
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     QApplication::setOrganizationName(QStringLiteral("ORVA"));
@@ -224,10 +354,11 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "orva-help-pictures: %s cannot be made\n", argv[2]);
         return 1;
     }
-    const FolderMachine machine(argv[1]);
+    const FolderMachine machine(argv[1], written.path().toStdString());
     OneFile dialogs("ORVA.Q05"); // of the installation folder
     Session session(machine, dialogs);
     mdiORVA window(session);
     window.show();
-    return Photographer(session, window, dialogs, output).TakeAll() ? 0 : 1;
+    const QString screenshot = QString::fromLocal8Bit(argv[3]);
+    return Photographer(session, window, dialogs, output, screenshot).TakeAll() ? 0 : 1;
 }
