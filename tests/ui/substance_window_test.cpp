@@ -35,7 +35,8 @@ TEST_F(SubstanceWindow, CountsTheSubstancesInItsTitleAndListsThemAll) {
     EXPECT_EQ(first.left(5), "   1 ");
     EXPECT_EQ(StoffListe->CurrentRow(), 0);
     EXPECT_EQ(NameCombo->currentText(), Name(0));
-    EXPECT_TRUE(StoffListe->fontInfo().fixedPitch());
+    EXPECT_EQ(StoffListe->fontMetrics().horizontalAdvance(u'i'),
+              StoffListe->fontMetrics().horizontalAdvance(u'W'));
 }
 
 TEST_F(SubstanceWindow, TypedNumberSelectsItsRow) {
@@ -117,6 +118,20 @@ TEST_F(SubstanceWindow, SearchedNamesStayInTheListOfTheField) {
     ASSERT_EQ(NameCombo->count(), 2);
     EXPECT_EQ(NameCombo->itemText(0), "n-Butan");
     EXPECT_EQ(NameCombo->itemText(1), "Ethan");
+}
+
+TEST_F(SubstanceWindow, ANameOrCasNumberFoundAsItStandsShowsItsRow) {
+    const int row = RowOfCas("7732-18-5");
+    NameCombo->lineEdit()->selectAll();
+    QTest::keyClicks(NameCombo, "7732-18-5");
+    QTest::keyClick(NameCombo, Qt::Key_Return);
+    EXPECT_EQ(StoffListe->CurrentRow(), row);
+    EXPECT_EQ(Text1->text(), QString::number(session->List().At(row + 1).number));
+    EXPECT_TRUE(In<QLabel>(form, "Bez4")->text().startsWith(" CASRN: 7732-18-5"));
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "StoffOK");
+    Press(Qt::Key_Return);
+    ASSERT_NE(Wait<frmQModell>(), nullptr);
+    EXPECT_EQ(session->state.substanceIndex, row + 1);
 }
 
 TEST_F(SubstanceWindow, EscInTheNameClearsTheSelectionFirstAndClosesThen) {
