@@ -119,7 +119,7 @@ TEST_F(CalculationWindows, ReportCanBeSelectedAndCopiedButNotChanged) {
     list->copy();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), before);
     EXPECT_FALSE(before.contains('\r'));
-    EXPECT_TRUE(list->fontInfo().fixedPitch());
+    EXPECT_EQ(list->fontMetrics().horizontalAdvance(u'i'), list->fontMetrics().horizontalAdvance(u'W'));
 }
 
 TEST_F(CalculationWindows, ControlsThatHaveNothingBehindThemAreDisabled) {
@@ -247,6 +247,7 @@ TEST(DensityInput, OffersAVolumeInstead) {
     auto* volume = form.findChild<QRadioButton*>("optRhoV(1)");
     ASSERT_TRUE(density != nullptr && volume != nullptr);
     EXPECT_TRUE(density->isChecked());
+    Workbench::ExpectOwnLetters(&form, 4);
     volume->click();
     form.findChild<QLineEdit*>("par(0)")->setText("300");
     form.findChild<QLineEdit*>("par(2)")->setText("2");
