@@ -107,6 +107,8 @@ constexpr EnablingRule enablingRules[] = {
     {SubstanceAccepted, toolbarName, 11, Enable, Always},
     {SubstanceAccepted, toolbarName, 15, Enable, Always},
 
+    {SubstanceUnusable, "mnuModel", noIndex, Enable, Never},
+
     {ModelsAccepted, "mnuModel", noIndex, Enable, Always},
     {ModelsAccepted, "mnuData_ParameterEOS", noIndex, Enable, Always},
     {ModelsAccepted, "mnuCalcMain", noIndex, Enable, Always},

@@ -17,6 +17,7 @@ enum class SessionEvent : std::uint8_t {
     ModelStateReset,
     DatabaseOpened,
     SubstanceAccepted,
+    SubstanceUnusable, // loaded for the editor, without critical data
     ModelsAccepted,
     ProjectLoaded,
     DataMenuOpened,

@@ -116,14 +116,15 @@ bool AcceptSubstance(Session& session, int listIndex) {
     const SubstanceLoadResult loaded =
         LoadSubstanceRecord(session.database, listIndex, session.state.englishText, substance);
     session.state.substanceIndex = static_cast<std::int16_t>(listIndex);
+    session.statusPanels[0] = substance.name;
     if (loaded.criticalDataMissing) {
+        session.Enter(SessionEvent::SubstanceUnusable);
         session.dialogs.Show(CriticalDataMissingMessage(substance));
         return false;
     }
     if (session.model.selection.vaporPressure >= firstCorrelatedEquation)
         CorrelateVapourPressure(substance, session.model.selection.vaporPressure);
     session.Enter(SessionEvent::SubstanceAccepted);
-    session.statusPanels[0] = substance.name;
     session.state.projectComment.clear();
     session.state.rangesStale = true;
     return true;

@@ -106,6 +106,10 @@ void SubstanceChoice::EnterName(std::string_view text) {
     NameCombo = text;
     const std::string typed(text.substr(0, text.find(';')));
     const SearchResult result = FindSubstance(text);
+    if (result.found && result.index - 1 != selectedRow) {
+        SelectRow(result.index - 1); // list, number and CAS number show what was found
+        NameCombo = text;            // of several substances with one name it may be the CAS number
+    }
     // Kept on purpose: a vain search leaves the first substance pending, whichever row is selected.
     session.substanceIndexPending = static_cast<std::int16_t>(result.index > 0 ? result.index : 1);
     nameHistory.push_back(typed);

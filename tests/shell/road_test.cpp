@@ -108,7 +108,13 @@ TEST_F(Road, AcceptingASubstanceLoadsItAndFillsThePanel) {
 
 TEST_F(Road, ASubstanceWithoutCriticalDataStaysLoadedWithItsWarning) {
     OpenSample();
+    ASSERT_TRUE(AcceptSubstance(session, 1));
+    ASSERT_TRUE(session.commands.Allowed(FindCommand("mnuModel")));
     EXPECT_FALSE(AcceptSubstance(session, 3));
+    EXPECT_FALSE(session.commands.Allowed(FindCommand("mnuModel")));
+    EXPECT_TRUE(session.commands.Allowed(FindCommand("mnuData_EditStoffdaten")));
+    EXPECT_EQ(session.statusPanels[0], "Stoff ohne kritische Daten");
+    EXPECT_EQ(session.state.substanceIndex, 3);
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(dialogs.shown[0].title, "WARNUNG");
     EXPECT_EQ(dialogs.shown[0].text,

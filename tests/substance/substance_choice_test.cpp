@@ -172,10 +172,21 @@ TEST_F(SubstanceWindow, ASubstanceThatTheDatabaseLacksIsDescribed) {
 TEST_F(SubstanceWindow, EnterSearchesAndRemembersTheText) {
     window.EnterName("Essigsäure");
     EXPECT_EQ(session.substanceIndexPending, 3);
+    EXPECT_EQ(window.selectedRow, 2);
     window.EnterName("Ethanol; Weingeist");
     EXPECT_EQ(session.substanceIndexPending, 1);
     window.EnterName("");
     EXPECT_THAT(window.nameHistory, ElementsAre("Essigsäure", "Ethanol"));
+}
+
+TEST_F(SubstanceWindow, AnExactHitSelectsItsRowAndKeepsTheText) {
+    window.EnterName("1-1-1"); // the second of two with the name Wasser
+    EXPECT_EQ(window.selectedRow, 3);
+    EXPECT_EQ(window.Text1, "2000");
+    EXPECT_EQ(window.Bez4, " CASRN: 1-1-1       ");
+    EXPECT_EQ(window.NameCombo, "1-1-1");
+    EXPECT_TRUE(window.AcceptName());
+    EXPECT_EQ(session.substanceIndexPending, 4);
 }
 
 TEST_F(SubstanceWindow, AVainSearchLeavesTheFirstSubstancePending) {

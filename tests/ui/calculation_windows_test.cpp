@@ -252,6 +252,7 @@ TEST(DensityInput, OffersAVolumeInstead) {
     auto* volume = form.findChild<QRadioButton*>("optRhoV(1)");
     ASSERT_TRUE(density != nullptr && volume != nullptr);
     EXPECT_TRUE(density->isChecked());
+    Workbench::ExpectOwnLetters(&form, 4);
     volume->click();
     form.findChild<QLineEdit*>("par(0)")->setText("300");
     form.findChild<QLineEdit*>("par(2)")->setText("2");

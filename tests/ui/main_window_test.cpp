@@ -60,6 +60,12 @@ TEST_F(MainWindow, StatusBarFollowsSubstanceAndModels) {
     EXPECT_EQ(Panel(1), "n-Butan");
     EXPECT_EQ(Panel(2), "CEOS Peng / Robinson (Priorität!)");
     EXPECT_EQ(Panel(3), "Dampfdruck-Gleichung: Wagner");
+    window->resize(window->minimumSize());
+    QTest::qWait(1);
+    for (int panel = 1; panel <= 3; ++panel) {
+        const auto* label = window->findChild<QLabel*>(ControlName("statusPanel", panel));
+        EXPECT_GE(label->width(), label->sizeHint().width()) << panel;
+    }
 }
 
 TEST_F(MainWindow, StartPageShowsTheStepAtHandAndItsButtonsAreTheCommands) {

@@ -171,6 +171,32 @@ TEST_F(MethodWindow, WithoutPriorityNothingIsLeftToChoose) {
         Report(output).startsWith(QString(75, '-') + "\n")); // visible, although drawn with soft hyphens
 }
 
+TEST_F(MethodWindow, NoTwoControlsShareALetter) {
+    ExpectOwnLetters(Start(5), 10);
+}
+
+TEST_F(MethodWindow, TabWalksThroughTheControlsInTheirOrder) {
+    auto* form = Start(5);
+    ASSERT_NE(form, nullptr);
+    Click(In<QRadioButton>(form, "opt_glob(1)"));
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "opt_glob(1)");
+    EXPECT_EQ(WalkByTab().join(u' ').toStdString(),
+              "opt_glob(1) GlobHilfe optPartialBenson(0) BENSON_HELP Ref_opt(0) OK Esc");
+}
+
+TEST_F(MethodWindow, LettersOfTheVesselTakeMassOrAmount) {
+    Choose("mnuCalcMain", "mnuCalc(15)");
+    auto* input = Wait<frmParinput>();
+    ASSERT_NE(input, nullptr);
+    ExpectOwnLetters(input, 4);
+    QTest::keyClick(input, Qt::Key_N, Qt::AltModifier);
+    const auto* amount = In<QRadioButton>(input, "optm_n(1)");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return amount->isChecked(); }, 1000));
+    QTest::keyClick(input, Qt::Key_M, Qt::AltModifier);
+    const auto* mass = In<QRadioButton>(input, "optm_n(0)");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return mass->isChecked(); }, 1000));
+}
+
 TEST_F(MethodWindow, VesselAsksForVolumeContentAndTemperature) {
     Choose("mnuCalcMain", "mnuCalc(15)");
     auto* input = Wait<frmParinput>();

@@ -182,6 +182,20 @@ TEST_F(ModelWindow, ClosesTheWindowsOfTheLastCalculation) {
     EXPECT_EQ(Find<frmParinput>(), nullptr);
 }
 
+TEST_F(ModelWindow, NoTwoControlsShareALetter) {
+    ExpectOwnLetters(form, 9);
+}
+
+TEST_F(ModelWindow, TabWalksThroughTheControlsInTheirOrder) {
+    EXPECT_EQ(WalkByTab().join(u' ').toStdString(),
+              "EOSKombi EOSHilfe pKombi pHilfe PriorOpt(0) PriorHilfe HLVKombi HLVHilfe cpKombi cpHilfe "
+              "RhoLHilfe OKModell cmdEsc");
+    auto* HLVKombi = In<QComboBox>(form, "HLVKombi");
+    emit HLVKombi->activated(HLVKombi->findText("Watson-Korrelation"));
+    HLVKombi->setFocus();
+    EXPECT_EQ(WalkByTab().mid(0, 4).join(u' ').toStdString(), "HLVKombi WatsonKombi HLVHilfe cpKombi");
+}
+
 TEST_F(ModelWindow, ButtonsWithoutAWindowBehindThemAreDisabled) {
     EXPECT_FALSE(In<QAbstractButton>(form, "cmdData")->isEnabled());
     for (const char* name : {"EOSHilfe", "pHilfe", "HLVHilfe", "cpHilfe", "RhoLHilfe", "PriorHilfe"})

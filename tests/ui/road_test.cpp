@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/road.h"
+#include "ui/shell/start_page.h"
 #include "ui/ui_fixture.h"
 
 #include "ui/diagrams/diagram_window_view.h"
@@ -157,6 +158,10 @@ TEST_F(WholeRoad, OpeningAnotherDatabaseStartsItAgain) {
     ASSERT_NE(OpenDatabase(), nullptr);
     for (const char* key : {"mnuModel", "mnuCalcMain", "mnu2D"})
         EXPECT_FALSE(Command(key)->isEnabled()) << key;
+    // Left without a choice, the page asks for a substance and not for models that are closed.
+    Find<frmStoffWahl>()->close();
+    EXPECT_EQ(In<QFrame>(window.get(), "step(2)")->findChild<StepDisc*>()->Shown(), StepDisc::State::Current);
+    EXPECT_EQ(window->focusWidget()->objectName(), "cmd_mnuStoff");
 }
 
 } // namespace

@@ -120,6 +120,20 @@ TEST_F(SubstanceWindow, SearchedNamesStayInTheListOfTheField) {
     EXPECT_EQ(NameCombo->itemText(1), "Ethan");
 }
 
+TEST_F(SubstanceWindow, ANameOrCasNumberFoundAsItStandsShowsItsRow) {
+    const int row = RowOfCas("7732-18-5");
+    NameCombo->lineEdit()->selectAll();
+    QTest::keyClicks(NameCombo, "7732-18-5");
+    QTest::keyClick(NameCombo, Qt::Key_Return);
+    EXPECT_EQ(StoffListe->CurrentRow(), row);
+    EXPECT_EQ(Text1->text(), QString::number(session->List().At(row + 1).number));
+    EXPECT_TRUE(In<QLabel>(form, "Bez4")->text().startsWith(" CASRN: 7732-18-5"));
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "StoffOK");
+    Press(Qt::Key_Return);
+    ASSERT_NE(Wait<frmQModell>(), nullptr);
+    EXPECT_EQ(session->state.substanceIndex, row + 1);
+}
+
 TEST_F(SubstanceWindow, EscInTheNameClearsTheSelectionFirstAndClosesThen) {
     QTest::keyClick(NameCombo, Qt::Key_Escape);
     EXPECT_EQ(Find<frmStoffWahl>(), form);

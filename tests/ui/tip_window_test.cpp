@@ -38,7 +38,7 @@ TEST_F(TipWindow, OpensAtTheStartBesideTheWorkAndSaysWhatItIs) {
     QStringList labels;
     for (const QLabel* label : form->findChildren<QLabel*>())
         labels << label->text();
-    EXPECT_TRUE(labels.contains("Tip des Tages:"));
+    EXPECT_TRUE(labels.contains("Tipp des Tages:"));
     EXPECT_EQ(Tip(form), "");
     EXPECT_TRUE(window->IsFormOpen("frmTip"));
 }

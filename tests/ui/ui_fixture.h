@@ -127,6 +127,8 @@ struct Workbench : testing::Test {
             collect(button->text());
         for (const auto* label : form->findChildren<QLabel*>())
             collect(label->text());
+        for (const auto* frame : form->findChildren<QGroupBox*>())
+            collect(frame->title());
         EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
         EXPECT_EQ(letters.size(), count);
     }

@@ -84,7 +84,8 @@ TEST(ValueInputWindow, ButtonDrawsToo) {
 
 TEST(ValueInputWindow, UnusableTextKeepsTheWindowOpenAndChangesNothing) {
     Box b;
-    b.Type("abc");
+    b.Type("-abc.e"); // what is no part of a number is not taken
+    EXPECT_EQ(b.value->text(), "-.e");
     b.Click("cmdOK");
     EXPECT_TRUE(b.box->isVisible());
     EXPECT_THAT(b.d.dialogs.messages,

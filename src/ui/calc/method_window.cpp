@@ -85,7 +85,7 @@ QGroupBox* frmCalcIn::ReferenceFrame() {
         AddOption(ControlName("optPartialBenson", 1), QStringLiteral("&BENSON-Methode"), frame);
     const char* const referenceTexts[] = {"&Vorschlag für Bezugspunkt entsprechend Datensituation:",
                                           "&Normalsiedepunkt mit BENSON-Näherungsformel für rho(L)",
-                                          "&Bezugspunkt selbst eingeben"};
+                                          "Bezugspunkt &selbst eingeben"};
     auto* densities = new QButtonGroup(this);
     auto* references = new QButtonGroup(this);
     auto* top = new QHBoxLayout;

@@ -33,10 +33,10 @@ frmParinput::frmParinput(PointInput pointInput, Dialogs& boxes, QWidget* parent)
     }
     column->addLayout(grid);
     if (input.TakesDensity())
-        AddChoice(*column, "optRhoV", {"Dichte", "Volumen"}, input.VolumeInput() ? 1 : 0,
+        AddChoice(*column, "optRhoV", {"&Dichte", "&Volumen"}, input.VolumeInput() ? 1 : 0,
                   [this](int id) { input.SetVolumeInput(id == 1); });
     if (input.IsVessel())
-        AddChoice(*column, "optm_n", {"Masse m", "Stoffmenge n"}, input.AmountInput() ? 1 : 0,
+        AddChoice(*column, "optm_n", {"&Masse m", "Stoffmenge &n"}, input.AmountInput() ? 1 : 0,
                   [this](int id) { input.SetAmountInput(id == 1); });
     okButton->setText(ToQt(input.CommandText()));
     okButton->setObjectName(QStringLiteral("cmdParameter_OK"));

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
 namespace orva {
@@ -28,6 +29,8 @@ frmTpVSInputBox::frmTpVSInputBox(ValueInput& theInput, QWidget* parent)
     label->setObjectName("lblValue");
     unit->setObjectName("lblUnit");
     value->setObjectName("txtValue");
+    value->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral(R"([+-]?\d*[.,]?\d*([eE][+-]?\d*)?)")), value));
     value->setMinimumWidth(fontMetrics().averageCharWidth() * 18);
     value->setAlignment(Qt::AlignRight);
     label->setBuddy(value);

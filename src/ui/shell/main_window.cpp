@@ -124,17 +124,19 @@ void mdiORVA::BuildToolbar() {
 }
 
 void mdiORVA::BuildStatusBar() {
-    constexpr int stretches[] = {2, 3, 4};
     for (std::size_t i = 0; i < panels.size(); ++i) {
         panels[i] = new QLabel(this);
         panels[i]->setObjectName(ControlName("statusPanel", static_cast<int>(i) + 1));
         panels[i]->setContentsMargins(6, 0, 6, 0);
-        if (i == panels.size() - 1) {
-            statusBar()->addPermanentWidget(panels[i]);
+        if (i < panels.size() - 1) {
+            panels[i]->setMinimumWidth(1); // a long name must not widen the window
+            statusBar()->addWidget(panels[i]);
             continue;
         }
+        // The contact text takes what substance and models leave.
         panels[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        statusBar()->addWidget(panels[i], stretches[i]);
+        panels[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        statusBar()->addPermanentWidget(panels[i], 1);
     }
 }
 

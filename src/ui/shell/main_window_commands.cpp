@@ -188,6 +188,7 @@ void mdiORVA::ChooseSubstance(const CommandRow&) {
             ChooseModels({});
         },
         Qt::QueuedConnection);
+    connect(form, &QDialog::rejected, startPage, &StartPage::FocusCurrentStep);
     ShowForm(form, Qt::ApplicationModal);
 }
 

@@ -67,7 +67,8 @@ StepView DatabaseStep(const Session& session) {
 
 StepView SubstanceStep(const Session& session) {
     const SubstanceData& substance = session.model.substance;
-    if (session.state.substanceIndex == 0)
+    // Another database, or missing critical data, ask for a substance again.
+    if (session.state.substanceIndex == 0 || !session.commands.Allowed(FindCommand("mnuModel")))
         return {false, QStringLiteral("Wählen Sie einen Stoff nach Name, CAS-Nummer oder aus der Liste.")};
     return {true, ToQt(substance.name + "   " + substance.formulaCompact + "   CAS-Nr. "
                        + std::string(TrimRight(substance.cas)))};

@@ -43,7 +43,7 @@ QWidget* frmTip::TipPanel() {
     panel->setBackgroundRole(QPalette::Base);
     auto* picture = new QLabel(panel);
     picture->setPixmap(DrawnIcon(Picture::Hint).pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
-    auto* heading = new QLabel(QStringLiteral("Tip des Tages:"), panel);
+    auto* heading = new QLabel(QStringLiteral("Tipp des Tages:"), panel);
     heading->setForegroundRole(QPalette::Text);
     QFont bold = heading->font();
     bold.setBold(true);

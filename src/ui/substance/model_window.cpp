@@ -40,14 +40,13 @@ frmQModell::frmQModell(Session& ownSession, QWidget* parent)
       EOSKombi(AddCombo("EOSKombi", QStringLiteral("Zustandsgleichung"))),
       pKombi(AddCombo("pKombi", QStringLiteral("Dampfdruckgleichung"))),
       HLVKombi(AddCombo("HLVKombi", QStringLiteral("Verdampfungsenthalpie"))),
-      WatsonKombi(AddCombo("WatsonKombi", QStringLiteral("Exponent der Watson-Korrelation"))),
+      WatsonKombi(AddCombo("WatsonKombi", QStringLiteral("Exponent der Watson-Korrelation"), true)),
       cpKombi(AddCombo("cpKombi", QStringLiteral("Wärmekapazität im Idealgas-Zustand"))),
       Bz1(new QLabel(QStringLiteral("E&xponent:"), this)), Rx1(new QLabel(this)),
       Rx2(MutedLabel(QString(), this)) {
     setObjectName(QStringLiteral("frmQModell"));
     choice.Open();
     setWindowTitle(ToQt(choice.title));
-    WatsonKombi->setEditable(true);
     WatsonKombi->setInsertPolicy(QComboBox::NoInsert);
     WatsonKombi->setCompleter(nullptr);
     WatsonKombi->setValidator(new NumberValidator(WatsonKombi));
@@ -68,11 +67,13 @@ frmQModell::frmQModell(Session& ownSession, QWidget* parent)
     column->addLayout(ButtonRow());
     ShowChoice();
     ConnectControls();
+    OrderTabs();
     EOSKombi->setFocus();
 }
 
-QComboBox* frmQModell::AddCombo(const char* name, const QString& accessibleName) {
+QComboBox* frmQModell::AddCombo(const char* name, const QString& accessibleName, bool editable) {
     auto* combo = new QComboBox(this);
+    combo->setEditable(editable); // at once, so that its line of text is next to it for Tab
     combo->setObjectName(QLatin1String(name));
     combo->setAccessibleName(accessibleName);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -139,6 +140,25 @@ QLayout* frmQModell::ButtonRow() {
     row->addWidget(ok);
     row->addWidget(cancel);
     return row;
+}
+
+// The lists were made before their frames; Tab goes from frame to frame all the same. A frame stands in the
+// way of Tab as its first control, so it moves with it.
+void frmQModell::OrderTabs() {
+    QWidget* before = nullptr;
+    for (QGroupBox* frame : findChildren<QGroupBox*>()) {
+        QWidget* first = frame->focusProxy();
+        if (before != nullptr && first != nullptr)
+            setTabOrder(before, frame);
+        before = first != nullptr ? first : before;
+        for (int i = 0; i < frame->layout()->count(); ++i) {
+            QWidget* control = frame->layout()->itemAt(i)->widget();
+            if (control == nullptr || control == first || control->focusPolicy() == Qt::NoFocus)
+                continue;
+            setTabOrder(before, control);
+            before = control;
+        }
+    }
 }
 
 // Walking over the closed list would choose every row on the way, each with its consequences. So the keys

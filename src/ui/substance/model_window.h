@@ -29,12 +29,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QComboBox* AddCombo(const char* name, const QString& accessibleName);
+    QComboBox* AddCombo(const char* name, const QString& accessibleName, bool editable = false);
     QGroupBox* Frame(const QString& title, std::initializer_list<QWidget*> controls, const char* helpName);
     QGroupBox* PriorityFrame();
     QGroupBox* DensityFrame();
     QLayout* ButtonRow();
     void ConnectControls();
+    void OrderTabs();
     void ShowChoice();
     void AskVirialConstants();
     void AcceptChoice();
