@@ -10,12 +10,12 @@ namespace orva {
 
 namespace {
 
-constexpr double startStep = 0.05; // K, of the search for the first point on the screen
-constexpr double screenPart = 800; // a step is too small below this part of the axis in both directions
+constexpr double startStep = 0.05;    // K, of the search for the first point on the screen
+constexpr double screenPart = 800;    // a step is too small below this part of the axis in both directions
 constexpr int mostStartFailures = 20; // just below the critical point, where equal areas may not be found
 constexpr double firstStepParts = 1000;
 constexpr double leastFirstStep = 1e-3; // K, of a window too low for its logarithm
-constexpr int mostSearchSteps = 40000; // of either search
+constexpr int mostSearchSteps = 40000;  // of either search
 
 // A saturated state on the way down from the critical point.
 struct Saturated {

@@ -62,7 +62,8 @@ bool DiagramWindow::mnuMarkT() {
     std::vector<ChartMark> marks;
     AddLine(chart, Quantity::Temperature, substance.Tc * factor, "T(cr)", marks);
     AddLine(chart, Quantity::Temperature, substance.Ttrip * factor, "T(Trip.P.)", marks);
-    AddLine(chart, Quantity::Temperature, SaturationTemperature(records.model, records.request.curveP) * factor,
+    AddLine(chart, Quantity::Temperature,
+            SaturationTemperature(records.model, records.request.curveP) * factor,
             "                      T(LV) bei p", marks);
     AddLine(chart, Quantity::Temperature, SaturationTemperature(records.model, normalPressure) * factor,
             "                      T(LV) bei Normaldruck", marks);

@@ -75,8 +75,10 @@ bool DiagramWindow::Open(const DiagramRow* row) {
     SelectDiagram(records, *row, spec);
     mode = {};
     const bool isobar = row->curveKind == curveIsobar;
-    SetLimits(isobar ? records.ranges.TMin / records.options.TFactor : records.ranges.pMin / records.options.pFactor,
-              isobar ? records.ranges.TMax / records.options.TFactor : records.ranges.pMax / records.options.pFactor);
+    SetLimits(isobar ? records.ranges.TMin / records.options.TFactor
+                     : records.ranges.pMin / records.options.pFactor,
+              isobar ? records.ranges.TMax / records.options.TFactor
+                     : records.ranges.pMax / records.options.pFactor);
     chart = {};
     chart.headingLines = {spec.headingText, " Diagrammtyp:  " + spec.typeTitle, spec.subTitle};
     chart.xTitle = spec.xTitle;
@@ -133,12 +135,8 @@ bool DiagramWindow::AddCurveSlot() {
 }
 
 std::string DiagramWindow::LegendText() const {
-    const CurveDescription description{spec,
-                                       mode,
-                                       records.request,
-                                       records.options,
-                                       records.model.eos.vCritCalc,
-                                       records.style};
+    const CurveDescription description{
+        spec, mode, records.request, records.options, records.model.eos.vCritCalc, records.style};
     return std::string("(").append(std::to_string(chart.currentSlot)) + ") " + DescribeCurve(description);
 }
 

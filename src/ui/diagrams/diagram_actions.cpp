@@ -38,7 +38,8 @@ bool HasTieLine(const DiagramWindow& window) {
 }
 bool HasSKurve(const DiagramWindow& window) {
     const int type = window.Spec().type;
-    return (type >= 1 && type <= 4) || type == 26 || (type >= 15 && type <= 18) || (type >= 150 && type <= 160);
+    return (type >= 1 && type <= 4) || type == 26 || (type >= 15 && type <= 18)
+           || (type >= 150 && type <= 160);
 }
 bool HasCoexistenceCurve(const DiagramWindow& window) {
     const DiagramRow* row = FindDiagram(window.Spec().type);
@@ -112,12 +113,12 @@ constexpr DiagramAction actions[] = {
      "Konnode", &G::mnuMarkKonnode, HasTieLine, nullptr},
     {"mnuMarkSKurve", "mnuAdd", "&S-Kurve im Zweiphasengebiet", "Ctrl+R",
      "Teil der Isotherme zwischen Siede- und Taulinie", "S-Kurve", &G::mnuMarkSKurve, HasSKurve, nullptr},
-    {"mnuMarkKoex", "mnuAdd", "VL-Koe&xistenzkurve", "Ctrl+G", "Siede- und Taulinie des Diagramms", "Koexistenz",
-     &G::mnuMarkKoex, HasCoexistenceCurve, nullptr},
+    {"mnuMarkKoex", "mnuAdd", "VL-Koe&xistenzkurve", "Ctrl+G", "Siede- und Taulinie des Diagramms",
+     "Koexistenz", &G::mnuMarkKoex, HasCoexistenceCurve, nullptr},
     {"mnuMarkInversion", "mnuAdd", "&Inversionskurve", "", "Joule-Thomson-Koeffizient delta = 0", "",
      &G::mnuMarkInversion, HasInversionCurve, nullptr},
-    {"mnuMarkHalbierende", "mnuAdd", "&Halbierende der Dichten", "", "Mittel aus Flüssigkeits- und Dampfdichte", "",
-     &G::mnuMarkHalbierende, HasDensities, nullptr},
+    {"mnuMarkHalbierende", "mnuAdd", "&Halbierende der Dichten", "",
+     "Mittel aus Flüssigkeits- und Dampfdichte", "", &G::mnuMarkHalbierende, HasDensities, nullptr},
     {"", "mnuAdd", "", "", "", "", nullptr, nullptr, nullptr},
     {markT, "mnuAdd", "&Temperaturen: T(cr), T(Trip.P.), T(LV)", "", "Marken der T-Achse", "", &G::mnuMarkT,
      HasTemperatureAxis, IsMarked<markT>},

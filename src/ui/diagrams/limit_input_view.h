@@ -12,8 +12,8 @@ class QLineEdit;
 
 namespace orva {
 
-// Takes the constant T or p of a diagram of two functions and the limits of its curve. Enter draws; the window
-// stays open for the next curve.
+// Takes the constant T or p of a diagram of two functions and the limits of its curve. Enter draws; the
+// window stays open for the next curve.
 class frmInputProzessLinien : public QDialog {
     Q_OBJECT
 public:

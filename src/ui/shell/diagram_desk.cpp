@@ -25,9 +25,9 @@ bool TakesValue(const DiagramRow& row) {
 
 DiagramDesk::DiagramDesk(Session& ownSession, QWidget* owner)
     : QObject(owner), session(ownSession), window(RecordsOf(session), session.dialogs),
-      input(RecordsOf(session), window, session.dialogs),
-      limits(RecordsOf(session), window, session.dialogs), graph(new frmGraph2D(window, session.dialogs, owner)),
-      valueBox(new frmTpVSInputBox(input, graph)), limitBox(new frmInputProzessLinien(limits, graph)) {
+      input(RecordsOf(session), window, session.dialogs), limits(RecordsOf(session), window, session.dialogs),
+      graph(new frmGraph2D(window, session.dialogs, owner)), valueBox(new frmTpVSInputBox(input, graph)),
+      limitBox(new frmInputProzessLinien(limits, graph)) {
     connect(graph, &frmGraph2D::InputWanted, this, &DiagramDesk::AskForValue);
 }
 
