@@ -8,6 +8,7 @@
 #include "diagrams/chart_text.h"
 #include "diagrams/diagram_conditions.h"
 #include "diagrams/diagram_window.h"
+#include "state/constants.h"
 #include "text/columns.h"
 #include "text/text_file.h"
 
@@ -53,13 +54,21 @@ std::string FileName(int type) {
     return "type-" + std::string(3 - std::min<std::size_t>(digits.size(), 3), '0') + digits;
 }
 
-bool IsInPressureOnly(const DiagramRow& row) {
-    return row.curveKind == curveIsotherm;
+// Inversion curves reach far beyond the windows of the other diagrams: to about 5 T(cr) and 12 p(cr).
+ChartWindow InversionWindow(const DiagramRow& row, const Session& session) {
+    const double T = 6 * session.model.substance.Tc * session.options.TFactor;
+    const double p = 14 * session.model.substance.pc * session.options.pFactor;
+    if (row.x.quantity == Quantity::Temperature)
+        return {0, T, 0, p};
+    const double gasLimit = gasConstant * 6 * session.model.substance.Tc;
+    return {0, p, 0, gasLimit * session.options.pFactor * session.options.volumeFactor};
 }
 
 // Two or three typical curves, and the boundaries of the two-phase region with them.
 void DrawTypicalCurves(DiagramWindow& window, const DiagramRow& row, Session& session) {
-    if (row.curveKind == curveInversion || row.command.empty() || row.curveKind == curveProjection
+    if (row.curveKind == curveInversion)
+        window.cmdCoord_OK(InversionWindow(row, session));
+    if (row.curveKind == curveInversion || row.curveKind == curveProjection
         || row.curveKind == curveFunctionOfT) {
         window.DrawAtOnce();
         return;
@@ -68,7 +77,7 @@ void DrawTypicalCurves(DiagramWindow& window, const DiagramRow& row, Session& se
     CurveRequest& request = session.curve;
     const bool cubic = !session.model.selection.nonCubic;
     const double vCrit = cubic ? session.model.eos.vCritCalc : substance.vcDatabase;
-    if (IsInPressureOnly(row)) {
+    if (row.curveKind == curveIsotherm) {
         for (const double part : {subcritical, 1.0, supercritical}) {
             request.curveT = part * substance.Tc;
             window.cmdDraw();

@@ -136,7 +136,9 @@ void CoexistenceFunctionOverVolume(CurveRun& run) {
     if (model.eos.rhoCritCalc > 0) {
         run.UseTemperature(Tc);
         const SaturationCaloricResult critical = SaturationCaloric(model, Tc, run.Ambient());
-        if (!critical.failed)
+        // Two parts that grow beyond all bounds leave no heat capacity there, but a cancelled rest.
+        const bool cancelled = value == &CaloricValues::cv && !(critical.liquid.cv > 0);
+        if (!critical.failed && !cancelled)
             add(critical, critical.vL, critical.vV, Tc);
     }
     if (run.mode.vapourFraction == 0)

@@ -32,7 +32,8 @@ constexpr std::array sCurveIsotherms = {1, 2, 26, 40, 41, 42, 43};
 constexpr int lastWithoutCondition = 149;
 
 // Projections that show one boundary of the two-phase region at a time.
-constexpr std::array boundaryTypes = {6, 7, 12, 27, 106, 90, 91, 92, 93, 94};
+constexpr std::array boundaryTypes = {6,  7,  12, 27, 106, 70, 71, 72, 73,  74,  75,  89,  90,
+                                      91, 92, 93, 94, 95,  96, 97, 99, 100, 101, 102, 120, 121};
 
 template<typename List> bool Contains(const List& list, int type) {
     return std::find(list.begin(), list.end(), type) != list.end();
