@@ -19,5 +19,6 @@ Answer PointCommand(Workspace& workspace, const Request& request);
 Answer VesselCommand(Workspace& workspace, const Request& request);
 Answer InverseCommand(Workspace& workspace, const Request& request);
 Answer CurveCommand(Workspace& workspace, const Request& request, Drawing& drawing);
+Answer AtlasCommand(Workspace& workspace, const Request& request, Drawing& drawing);
 
 } // namespace orva

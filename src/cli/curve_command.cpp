@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
+#include "cli/diagram_options.h"
 #include "cli/drawing.h"
 #include "diagrams/diagram_window.h"
 
 namespace orva {
 
-namespace {
-
-struct DrawnCurve {
-    double T = 0; // K
-    bool drawn = false;
-    CurveOutcome outcome;
-    CurvePoints points;
-};
-
-DiagramRecords RecordsOf(Session& session) {
+DiagramRecords DiagramRecordsOf(Session& session) {
     return {session.model, session.options, session.ranges,
             session.curve, session.state,   session.calculation.diagramTemperature,
             session.names, session.style};
@@ -28,29 +20,36 @@ void ApplyDiagramOptions(const CurveOptions& curve, Options& options) {
     options.partialCurveGasOnly = curve.partialGasOnly.value_or(options.partialCurveGasOnly);
 }
 
-bool FireCommand(DiagramWindow& window, const std::string& mode) {
+namespace {
+
+struct DrawnCurve {
+    double T = 0;                         // K
+    std::optional<double> vapourFraction; // of a line of the coexistence mode
+    bool drawn = false;
+    CurveOutcome outcome;
+    CurvePoints points;
+};
+
+bool FireCommand(DiagramWindow& window, const std::string& mode, double vapourFraction) {
     if (mode == "tie-line")
         return window.mnuMarkKonnode();
     if (mode == "s-curve")
         return window.mnuMarkSKurve();
+    if (mode == "coexistence")
+        return window.DrawCoexistence(vapourFraction);
+    if (mode == "inversion")
+        return window.mnuMarkInversion();
     return window.cmdDraw();
 }
 
-// The window adds the curve and words what stands against it; the numbers come from the generator itself on a
-// copy of the records, because the chart keeps z for its first points only.
-DrawnCurve DrawCurve(Session& session, DiagramWindow& window, const std::string& mode) {
-    SubstanceModel model = session.model;
-    Options options = session.options;
-    DiagramSpec spec = window.Spec();
-    CurveMode flags;
-    flags.tieLineMode = mode == "tie-line";
-    flags.sCurveMode = mode == "s-curve";
-
+// The window adds the curve and words what stands against it.
+DrawnCurve DrawCurve(const Session& session, DiagramWindow& window, const std::string& mode,
+                     double vapourFraction) {
     DrawnCurve curve;
     curve.T = session.curve.curveT;
-    curve.drawn = FireCommand(window, mode);
-    GenerateCurve(model, options, flags, spec, curve.points, session.curve.curveT, session.curve.curveP,
-                  session.curve.curveV, curve.outcome);
+    curve.drawn = FireCommand(window, mode, vapourFraction);
+    curve.outcome = window.LastOutcome();
+    curve.points = window.LastCurve();
     if (!curve.drawn) {
         curve.points.Clear();
         // The window refuses a part inside of the two-phase region where there is none.
@@ -58,6 +57,15 @@ DrawnCurve DrawCurve(Session& session, DiagramWindow& window, const std::string&
             curve.outcome.status = curveTieLineImpossible;
     }
     return curve;
+}
+
+// The vapour fractions that a request asks for; one run each.
+std::vector<double> FractionsOf(const CurveOptions& options) {
+    if (options.mode != "coexistence")
+        return {0};
+    if (options.vapourFraction)
+        return {*options.vapourFraction};
+    return {0, 1};
 }
 
 Json TitlesJson(const DiagramSpec& spec) {
@@ -99,6 +107,8 @@ Json SeveralCurvesJson(int type, const std::vector<DrawnCurve>& curves, const Di
     Json::array_t array;
     for (const DrawnCurve& curve : curves) {
         Json one{{"T", curve.T}};
+        if (curve.vapourFraction)
+            one["vapourFraction"] = *curve.vapourFraction;
         AddOutcome(one, curve);
         one["points"] = PointsJson(curve.points);
         array.push_back(std::move(one));
@@ -120,7 +130,7 @@ Answer CurveCommand(Workspace& workspace, const Request& request, Drawing& drawi
         return AnswerFor(*failure);
     Session& session = workspace.Records();
     ApplyDiagramOptions(options, session.options);
-    DiagramWindow window(RecordsOf(session), session.dialogs);
+    DiagramWindow window(DiagramRecordsOf(session), session.dialogs);
     window.Open(FindDiagram(options.type));
     if (options.window) {
         const auto& [xMin, xMax, yMin, yMax] = *options.window;
@@ -128,6 +138,12 @@ Answer CurveCommand(Workspace& workspace, const Request& request, Drawing& drawi
             return AnswerFor(FailureFrom(exitWrongUsage, workspace.Messages(), "option window: not usable"));
     }
     ApplyStartValues(options, session.curve);
+    if (options.limits)
+        window.SetLimits((*options.limits)[0], (*options.limits)[1]);
+    if (options.mode == "coexistence" && session.model.selection.nonCubic) {
+        window.mnuMarkKoex(); // it words the refusal
+        return AnswerFor(FailureFrom(exitCalculationFailed, workspace.Messages(), "no coexistence curve"));
+    }
     const std::vector<double> temperatures =
         options.T.empty() ? std::vector<double>{session.curve.curveT} : options.T;
 
@@ -135,8 +151,12 @@ Answer CurveCommand(Workspace& workspace, const Request& request, Drawing& drawi
     std::vector<DrawnCurve> curves;
     for (const double T : temperatures) {
         session.curve.curveT = T;
-        curves.push_back(DrawCurve(session, window, options.mode));
-        if (!curves.back().drawn && answer.exitStatus == exitGood) {
+        for (const double fraction : FractionsOf(options)) {
+            curves.push_back(DrawCurve(session, window, options.mode, fraction));
+            if (options.mode == "coexistence")
+                curves.back().vapourFraction = fraction;
+            if (curves.back().drawn || answer.exitStatus != exitGood)
+                continue;
             answer.exitStatus = exitCalculationFailed;
             answer.error = "no curve: "
                            + FailureFrom(0, workspace.Messages(), "no point of it could be calculated").text;

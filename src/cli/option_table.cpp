@@ -17,8 +17,9 @@ constexpr unsigned point = CommandBit(Command::Point);
 constexpr unsigned vessel = CommandBit(Command::Vessel);
 constexpr unsigned inverse = CommandBit(Command::Inverse);
 constexpr unsigned curve = CommandBit(Command::Curve);
+constexpr unsigned atlas = CommandBit(Command::Atlas);
 constexpr unsigned run = CommandBit(Command::Run);
-constexpr unsigned calculations = point | vessel | inverse | curve;
+constexpr unsigned calculations = point | vessel | inverse | curve | atlas;
 
 constexpr double anyNumber = std::numeric_limits<double>::max();
 constexpr double anySingle = std::numeric_limits<float>::max();
@@ -165,16 +166,23 @@ constexpr OptionRow rows[] = {
     Numbers(
         ValueKind::NumberList, "window", curve, 4, "xMin,xMax,yMin,yMax in display units",
         [](Request& r, V v) { r.curve.window = Numbers<4>(v); }, anySingle),
-    Integer("points", curve, 1, largestPointCount, "points of a curve",
+    Integer("points", curve | atlas, 1, largestPointCount, "points of a curve",
             [](Request& r, V v) { r.curve.points = Whole(v); }),
-    Word(ValueKind::Choice, "mode", curve, "curve|tie-line|s-curve",
-         "the curve, or its part in the two-phase region", [](Request& r, V v) { r.curve.mode = v.text; }),
-    Word(ValueKind::Switch, "curve-tp-restricted", curve, "", "draw only above the triple point",
+    Word(ValueKind::Choice, "mode", curve, "curve|tie-line|s-curve|coexistence|inversion",
+         "the curve, or what a command of the diagram window adds", [](Request& r, V v) { r.curve.mode = v.text; }),
+    Number("vapour-fraction", curve, "line of the coexistence mode, 0 liquid to 1 vapour; both if not given",
+           [](Request& r, V v) { r.curve.vapourFraction = First(v); }),
+    Numbers(
+        ValueKind::NumberList, "limits", curve, 2, "low,high of p or T, of a diagram of two functions",
+        [](Request& r, V v) { r.curve.limits = Numbers<2>(v); }, anySingle),
+    Word(ValueKind::Switch, "curve-tp-restricted", curve | atlas, "", "draw only above the triple point",
          [](Request& r, V v) { r.curve.tpRestricted = v.on; }),
-    Word(ValueKind::Switch, "s-curve-without-tie-line", curve, "", "draw the whole loop of a cubic equation",
+    Word(ValueKind::Switch, "s-curve-without-tie-line", curve | atlas, "", "draw the whole loop of a cubic equation",
          [](Request& r, V v) { r.curve.sCurveWithoutTieLine = v.on; }),
-    Word(ValueKind::Switch, "partial-curve-gas-only", curve, "", "virial equations: the gas only",
+    Word(ValueKind::Switch, "partial-curve-gas-only", curve | atlas, "", "virial equations: the gas only",
          [](Request& r, V v) { r.curve.partialGasOnly = v.on; }),
+    Required(Word(ValueKind::Text, "out", atlas, "", "folder of the atlas; it is made if there is none",
+                  [](Request& r, V v) { r.outFolder = v.text; })),
     Word(ValueKind::Text, "svg", curve, "", "write the diagram as SVG",
          [](Request& r, V v) { r.curve.svgFile = v.text; }),
     Word(ValueKind::Text, "png", curve, "", "write the diagram as PNG",
@@ -228,6 +236,7 @@ constexpr CliCommandRow commands[] = {
     {Command::Vessel, "vessel", "pressure and filling of a closed vessel"},
     {Command::Inverse, "inverse", "the T or p at which a thermodynamic function takes a value"},
     {Command::Curve, "curve", "the points of a curve, and the diagram as an image"},
+    {Command::Atlas, "atlas", "every diagram of a substance as SVG, PNG and CSV, with an index page"},
     {Command::Run, "run", "answers a file of requests, one a line"},
 };
 

@@ -36,6 +36,8 @@ Answer Program::Execute(const Request& request) {
         return InverseCommand(workspace, request);
     case Command::Curve:
         return CurveCommand(workspace, request, drawing);
+    case Command::Atlas:
+        return AtlasCommand(workspace, request, drawing);
     case Command::Run:
         break;
     }

@@ -9,7 +9,7 @@
 
 namespace orva {
 
-enum class Command : unsigned char { List, Find, Show, Models, Point, Vessel, Inverse, Curve, Run };
+enum class Command : unsigned char { List, Find, Show, Models, Point, Vessel, Inverse, Curve, Atlas, Run };
 
 // The choices of the model window; what is not given stays as the window presets it.
 struct ModelOptions {
@@ -81,6 +81,8 @@ struct CurveOptions {
     std::optional<std::array<double, 4>> window; // xMin, xMax, yMin, yMax in display units
     std::optional<int> points;
     std::string mode = "curve";
+    std::optional<double> vapourFraction;        // of a line of the coexistence mode
+    std::optional<std::array<double, 2>> limits; // of p in kPa or T in K, of a diagram of two functions
     std::optional<bool> tpRestricted, sCurveWithoutTieLine, partialGasOnly;
     std::string svgFile, pngFile, pdfFile;
 };
@@ -95,6 +97,7 @@ struct Request {
     InverseOptions inverse;
     CurveOptions curve;
     bool textFormat = false;
+    std::string outFolder;    // of `atlas`
     std::string requestsFile; // of `run`
 };
 

@@ -125,6 +125,16 @@ std::string CheckCurve(const CurveOptions& curve) {
             return "option T: a temperature must be above 0 K";
     if (curve.p && !(*curve.p > 0))
         return "option p: a pressure must be above 0 kPa";
+    if (curve.vapourFraction && curve.mode != "coexistence")
+        return "option vapour-fraction belongs to the mode coexistence";
+    if (curve.vapourFraction && !(*curve.vapourFraction >= 0 && *curve.vapourFraction <= 1))
+        return "option vapour-fraction: a vapour fraction lies between 0 and 1";
+    if (curve.limits && FindDiagram(curve.type)->curveCode != "yy")
+        return "option limits belongs to the diagrams of two functions";
+    if (curve.limits)
+        for (const double limit : *curve.limits)
+            if (!(limit > 0))
+                return "option limits: both limits must be above 0";
     if (curve.v && !(*curve.v > 0))
         return "option v: a volume must be above 0 m^3/kmol";
     return {};

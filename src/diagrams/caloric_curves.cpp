@@ -135,8 +135,9 @@ void CaloricOverP(CurveRun& run) {
         return;
     }
     const double pFactor = run.options.pFactor;
-    const double high = run.options.partialCurveGasOnly ? run.outcome.pSatCurve * pFactor
-                                                        : static_cast<double>(run.spec.xMax);
+    const bool gasOnly =
+        run.options.partialCurveGasOnly && run.model.selection.nonCubic && run.T < run.model.substance.Tc;
+    const double high = gasOnly ? run.outcome.pSatCurve * pFactor : static_cast<double>(run.spec.xMax);
     const double low = run.spec.xMin > 0 ? static_cast<double>(run.spec.xMin) : lowestP * pFactor;
     const bool mayJump = run.HasLoop() && run.HasTieLine();
     double pLV = mayJump ? EosSaturationPressure(run.model, run.T).value : passed;

@@ -11,6 +11,8 @@ namespace {
 
 constexpr std::int16_t basisSpecific = 1;
 constexpr std::int16_t basisReduced = 2;
+constexpr std::int16_t isochorSection = 5; // diagram type
+constexpr double belowCriticalVolume = 0.999999, aboveCriticalVolume = 1.000001;
 
 // A thermal quantity of a point, in K, kPa or m^3/kmol times the display factor.
 struct PointValues {
@@ -67,6 +69,28 @@ std::string_view ZTitle(int zKind) {
     }
 }
 
+// Which boundary of the two-phase region the coexistence command has drawn.
+std::string BoundaryText(const CurveMode& mode) {
+    if (!mode.coexistenceMode)
+        return {};
+    if (mode.vapourFraction == 0)
+        return " (L)";
+    return mode.vapourFraction == 1 ? " (V)" : "";
+}
+
+// An isochor with its side of the critical volume.
+std::string IsochorText(const CurveDescription& description) {
+    const double v = description.request.curveV;
+    const bool specific = description.options.volumeBasis == basisSpecific;
+    std::string side = " (cr) ";
+    if (v < belowCriticalVolume * description.vCritCalc)
+        side = " (L) ";
+    else if (v > aboveCriticalVolume * description.vCritCalc)
+        side = " (V) ";
+    return Format(specific ? v * description.options.volumeFactor : v, "###0.0####", description.style)
+           + (specific ? " m^3/kg " : " m^3/kmol ") + side;
+}
+
 std::string ReducedText(const PointValues& values, NumberStyle style) {
     std::string text;
     if (values.T)
@@ -96,6 +120,8 @@ std::string DescribeCurve(const CurveDescription& description) {
     const NumberStyle style = description.style;
     if (description.mode.tieLineMode)
         return "Konnode V-L ";
+    if (description.spec.type == isochorSection)
+        return IsochorText(description);
     switch (description.spec.curveKind) {
     case curveIsotherm:
         return Format(request.curveT, "####0.0# K ", style);
@@ -103,6 +129,10 @@ std::string DescribeCurve(const CurveDescription& description) {
         return Format(request.curveP, "#####0.0# kPa ", style);
     case curveIsochor:
         return Format(request.curveV, "####0.0#### m^3/kmol ", style);
+    case curveProjection:
+        return "VLE " + BoundaryText(description.mode);
+    case curveInversion:
+        return "Inversionskurve delta = 0 ";
     default:
         return {};
     }

@@ -18,10 +18,13 @@ struct CurveDescription {
     const DiagramSpec& spec;
     const CurveMode& mode;
     const CurveRequest& request;
+    const Options& options;
+    double vCritCalc;
     NumberStyle style;
 };
 
-// The description in the legend: what is constant along the curve, "300.0 K ".
+// The description in the legend: what is constant along the curve, "300.0 K ", or what it is. Empty for a
+// function of the database.
 std::string DescribeCurve(const CurveDescription& description);
 
 // A point of a curve in the chart.

@@ -2,6 +2,7 @@
 #include "diagrams/coexistence_functions.h"
 
 #include <cmath>
+#include <vector>
 
 #include "diagrams/catalogue.h"
 #include "state/constants.h"
@@ -18,6 +19,11 @@ constexpr double widestVolume = 50;      // times the window
 constexpr double leastFreeVolume = 1.08; // times the co-volume
 constexpr double lowestP = 0.05;         // kPa, where the window begins at 0
 constexpr double pairGrid = 0.3;         // of a step
+
+struct SaturatedAt {
+    double T;
+    SaturationCaloricResult state;
+};
 
 double Lever(const CurveRun& run, double liquid, double vapour) {
     return liquid + (vapour - liquid) * run.mode.vapourFraction;
@@ -124,19 +130,36 @@ void CoexistenceFunctionOverVolume(CurveRun& run) {
         run.Add(Lever(run, vL, vV) * volumeFactor,
                 Lever(run, state.liquid.*value, state.vapour.*value) * run.options.energyFactor, T);
     };
+    std::vector<double> grid;
+    grid.reserve(static_cast<std::size_t>(run.options.curvePoints) + 1);
     WalkGrid(lowestT, Tc, Tc / run.options.curvePoints, [&](double T) {
-        run.UseTemperature(T);
-        const SaturationCaloricResult state = SaturationCaloric(model, T, run.Ambient());
-        const double least = leastFreeVolume * model.eos.B;
-        if (!state.failed && state.vV * volumeFactor <= widestVolume * run.spec.xMax && state.vL > least
-            && state.vV > least)
-            add(state, state.vL, state.vV, T);
+        grid.push_back(T);
         return true;
     });
+    // From above: below the first vapour that is too wide all others are wider, and costly to find.
+    std::vector<SaturatedAt> states;
+    states.reserve(grid.size());
+    for (std::size_t i = grid.size(); i-- > 0;) {
+        const double T = grid[i];
+        const SaturationCaloricResult state = SaturationCaloric(model, T, run.Ambient());
+        const double least = leastFreeVolume * model.eos.B;
+        if (state.failed)
+            continue;
+        if (state.vV * volumeFactor > widestVolume * run.spec.xMax)
+            break;
+        if (state.vL > least && state.vV > least)
+            states.push_back({T, state});
+    }
+    for (auto at = states.rbegin(); at != states.rend(); ++at) {
+        run.UseTemperature(at->T);
+        add(at->state, at->state.vL, at->state.vV, at->T);
+    }
     if (model.eos.rhoCritCalc > 0) {
         run.UseTemperature(Tc);
         const SaturationCaloricResult critical = SaturationCaloric(model, Tc, run.Ambient());
-        if (!critical.failed)
+        // Two parts that grow beyond all bounds leave no heat capacity there, but a cancelled rest.
+        const bool cancelled = value == &CaloricValues::cv && !(critical.liquid.cv > 0);
+        if (!critical.failed && !cancelled)
             add(critical, critical.vL, critical.vV, Tc);
     }
     if (run.mode.vapourFraction == 0)

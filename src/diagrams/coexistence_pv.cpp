@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <cmath>
 
 #include "diagrams/projections.h"
@@ -9,10 +10,12 @@ namespace orva {
 
 namespace {
 
-constexpr double startStep = 0.05; // K, of the search for the first point on the screen
-constexpr double screenPart = 800; // a step is too small below this part of the axis in both directions
+constexpr double startStep = 0.05;    // K, of the search for the first point on the screen
+constexpr double screenPart = 800;    // a step is too small below this part of the axis in both directions
+constexpr int mostStartFailures = 20; // just below the critical point, where equal areas may not be found
 constexpr double firstStepParts = 1000;
-constexpr int mostSearchSteps = 40000; // of either search
+constexpr double leastFirstStep = 1e-3; // K, of a window too low for its logarithm
+constexpr int mostSearchSteps = 40000;  // of either search
 
 // A saturated state on the way down from the critical point.
 struct Saturated {
@@ -84,14 +87,17 @@ bool CoexistenceTrace::IsUsable(const Saturated& state) const {
 }
 
 bool CoexistenceTrace::FindFirstPoint() {
+    int failures = 0;
     for (int i = 0; i < mostSearchSteps; ++i) {
         T -= startStep;
         if (T <= 0)
             return false;
         const Saturated state = At(T);
+        if (state.failed && ++failures < mostStartFailures)
+            continue;
         if (state.p < missingValue)
             return false;
-        if (!state.failed && IsUsable(state))
+        if (IsUsable(state))
             return true;
     }
     return false;
@@ -122,18 +128,17 @@ void CoexistenceTrace::Draw() {
     const SubstanceModel& model = run.model;
     const double vCrit = model.eos.vCritCalc;
     T = StartTemperature();
-    const double logRange = std::log(pRange);
-    step = logRange / firstStepParts;
-    if (T == 0 || !FindFirstPoint() || !(step > 0))
+    step = std::max(std::log(pRange) / firstStepParts, leastFirstStep);
+    if (T == 0 || !FindFirstPoint())
         return;
     lastP = 5 * model.substance.pc;
     run.Add(DisplayVolume(vCrit), model.substance.pc * run.options.pFactor, model.substance.Tc);
     bool entered = false;
     for (int i = 0; i < mostGridSteps && !ended; ++i) {
         const Saturated state = NextState();
-        if (ended || T < missingValue || state.failed || state.p == lastP)
+        if (ended || T < missingValue || state.p == lastP || (state.failed && entered))
             return;
-        if (state.p >= model.substance.pc || state.vL > vCrit || state.vV < vCrit)
+        if (state.failed || state.p >= model.substance.pc || state.vL > vCrit || state.vV < vCrit)
             continue;
         lastP = state.p;
         lastV = VolumeOn(state);

@@ -59,8 +59,9 @@ bool PassesTriplePoint(CurveRun& run, double value, double limit, TripRule rule)
 // True where `curveTpRestricted` leaves out what lies below the triple point; nothing is reported.
 bool IsBelowTriplePoint(const CurveRun& run, double value, double limit);
 
-// No grid of a sensible window comes near; a window of no extent around a far value would never end.
-inline constexpr int mostGridSteps = 20000;
+// No grid of a sensible window comes near, not even the finest of the most points that a curve may have; a
+// window of no extent around a far value would never end.
+inline constexpr int mostGridSteps = 140000;
 
 // Walks x from `first` to `last` by repeated addition of `step`, as every grid of the generator does; the
 // sums, not the products, are the abscissae. A negative step walks down. `visit` returns false to end.

@@ -33,6 +33,14 @@ double SaturationPressure(const SubstanceModel& model, double T) {
     return VapourPressure(model.substance, T, model.selection.vaporPressure).value;
 }
 
+double SaturationTemperature(const SubstanceModel& model, double p) {
+    if (model.selection.eosPriority && !model.selection.nonCubic) {
+        SubstanceModel copy = model;
+        return EosSaturationTemperature(copy, p).value;
+    }
+    return VapourPressureTemperature(model.substance, p, model.selection.vaporPressure).value;
+}
+
 double CoVolume(const SubstanceModel& model, double T) {
     SubstanceModel copy = model;
     SetEosCoefficients(copy, T);
@@ -47,6 +55,20 @@ void AddCriticalPoint(const ChartDocument& chart, const Options& options, double
 }
 
 } // namespace
+
+bool DiagramWindow::mnuMarkT() {
+    const SubstanceData& substance = records.model.substance;
+    const double factor = records.options.TFactor;
+    std::vector<ChartMark> marks;
+    AddLine(chart, Quantity::Temperature, substance.Tc * factor, "T(cr)", marks);
+    AddLine(chart, Quantity::Temperature, substance.Ttrip * factor, "T(Trip.P.)", marks);
+    AddLine(chart, Quantity::Temperature,
+            SaturationTemperature(records.model, records.request.curveP) * factor,
+            "                      T(LV) bei p", marks);
+    AddLine(chart, Quantity::Temperature, SaturationTemperature(records.model, normalPressure) * factor,
+            "                      T(LV) bei Normaldruck", marks);
+    return Toggle("mnuMarkT", marks);
+}
 
 bool DiagramWindow::mnuMarkP() {
     const double factor = records.options.pFactor;

@@ -13,6 +13,8 @@ namespace {
 constexpr const char* titleRefused = "Ausführung nicht möglich";
 constexpr const char* titleWarning = "WARNUNG";
 
+constexpr std::int16_t densityProjection = 8; // both densities over T
+
 struct StatusWords {
     std::int16_t status;
     Message message;
@@ -71,6 +73,12 @@ bool DiagramWindow::Open(const DiagramRow* row) {
         return false;
     spec = {};
     SelectDiagram(records, *row, spec);
+    mode = {};
+    const bool isobar = row->curveKind == curveIsobar;
+    SetLimits(isobar ? records.ranges.TMin / records.options.TFactor
+                     : records.ranges.pMin / records.options.pFactor,
+              isobar ? records.ranges.TMax / records.options.TFactor
+                     : records.ranges.pMax / records.options.pFactor);
     chart = {};
     chart.headingLines = {spec.headingText, " Diagrammtyp:  " + spec.typeTitle, spec.subTitle};
     chart.xTitle = spec.xTitle;
@@ -87,6 +95,9 @@ bool DiagramWindow::cmdDraw() {
     curve.Clear();
     outcome = {};
     const CurveRequest& request = records.request;
+    mode.pMin = records.ranges.pMin;
+    mode.pMax = records.ranges.pMax;
+    mode.style = records.style;
     GenerateCurve(records.model, records.options, mode, spec, curve, request.curveT, request.curveP,
                   request.curveV, outcome);
     if (!WordStatus() || curve.Count() == 0 || !AddCurveSlot())
@@ -95,9 +106,13 @@ bool DiagramWindow::cmdDraw() {
     StorePoints(curve, series);
     if (mode.sCurveMode)
         series.style = LineStyle::Dashed;
+    if (spec.type == densityProjection) // its points change from phase to phase, no line joins them
+        series.style = LineStyle::PointsOnly;
     series.legend = LegendText();
     series.label = series.legend;
     series.labelPoint = LabelPoint(curve, spec.xMax, chart.currentSlot);
+    if (!outcome.resultText.empty())
+        chart.headingLines[1] = " Diagrammtyp:  " + spec.typeTitle + outcome.resultText;
     Notify();
     return true;
 }
@@ -120,45 +135,14 @@ bool DiagramWindow::AddCurveSlot() {
 }
 
 std::string DiagramWindow::LegendText() const {
-    const CurveDescription description{spec, mode, records.request, records.style};
+    const CurveDescription description{
+        spec, mode, records.request, records.options, records.model.eos.vCritCalc, records.style};
     return std::string("(").append(std::to_string(chart.currentSlot)) + ") " + DescribeCurve(description);
 }
 
-// The condition of the commands that work inside the two-phase region.
-bool DiagramWindow::IsBelowCriticalPoint() {
-    const SubstanceData& substance = records.model.substance;
-    if (spec.curveKind == curveIsobar) {
-        if (records.request.curveP < substance.pc)
-            return true;
-        Refuse("nur im V-L-Existenzgebiet möglich (p < p(cr))");
-        return false;
-    }
-    if (records.request.curveT < substance.Tc)
-        return true;
-    Refuse("nur im V-L-Existenzgebiet möglich (T < T(cr))");
-    return false;
-}
-
-bool DiagramWindow::mnuMarkKonnode() {
-    if (records.model.selection.nonCubic) {
-        Refuse("Konnode V-L nur für kubische EOS möglich");
-        return false;
-    }
-    if (!IsBelowCriticalPoint())
-        return false;
-    mode.tieLineMode = true;
-    const bool drawn = cmdDraw();
-    mode.tieLineMode = false;
-    return drawn;
-}
-
-bool DiagramWindow::mnuMarkSKurve() {
-    if (!IsBelowCriticalPoint())
-        return false;
-    mode.sCurveMode = true;
-    const bool drawn = cmdDraw();
-    mode.sCurveMode = false;
-    return drawn;
+void DiagramWindow::SetLimits(double low, double high) {
+    mode.limitLow = low;
+    mode.limitHigh = high;
 }
 
 void DiagramWindow::mnuSubDelKurv(int slot) {

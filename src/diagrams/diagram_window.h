@@ -10,6 +10,9 @@
 
 namespace orva {
 
+// The type of the coexistence curve in a diagram of `type`; its own where there is no other.
+int CoexistenceTypeOf(int type);
+
 // The rules of the diagram window: which curves it holds, what each command adds, and which words refuse it.
 // Every curve, whatever command asks for it, goes through cmdDraw.
 class DiagramWindow {
@@ -22,9 +25,24 @@ public:
 
     // One curve for the T, p, v of the curve request. True if a curve was added.
     bool cmdDraw();
-    bool mnuMarkKonnode(); // tie line of the current T or p
-    bool mnuMarkSKurve();  // inner part of the loop
+    // What a diagram without an input shows when it is opened: its curve, or both boundaries of the two-phase
+    // region.
+    bool DrawAtOnce();
+    bool mnuMarkKonnode();     // tie line of the current T or p
+    bool mnuMarkSKurve();      // inner part of the loop
+    bool mnuMarkKoex();        // both boundaries of the two-phase region
+    bool mnuMarkInversion();   // where the Joule-Thomson coefficient is 0
+    bool mnuMarkHalbierende(); // mean of both densities, in the diagram of densities over T
+    // One line of the two-phase region by its vapour fraction: 0 the liquid, 1 the vapour boundary.
+    bool DrawCoexistence(double vapourFraction);
+
+    // Limits of p in kPa (isotherm) or T in K (isobar) of a diagram of two functions.
+    void SetLimits(double low, double high);
+    double LimitLow() const { return mode.limitLow; }
+    double LimitHigh() const { return mode.limitHigh; }
+
     // Marker lines and points; a second call removes the mark again.
+    bool mnuMarkT();             // T(cr), T(trip), T(LV) at p and at normal pressure
     bool mnuMarkP();             // p(cr), p(LV) at T, normal pressure
     bool mnuMarkV();             // v(crit)
     bool mnuMarkB();             // v = b
@@ -47,6 +65,7 @@ public:
     const ChartDocument& Chart() const { return chart; }
     const DiagramRecords& Records() const { return records; }
     const CurveOutcome& LastOutcome() const { return outcome; }
+    const CurvePoints& LastCurve() const { return curve; }
 
     // Called after every change of the chart; `what` tells whether only the view moved.
     enum class Change { Contents, View };
@@ -56,7 +75,10 @@ private:
     bool WordStatus();
     bool AddCurveSlot();
     std::string LegendText() const;
-    bool IsBelowCriticalPoint();
+    bool DrawAs(int type, int curveKind);
+    bool RefuseNonCubic(const char* text);
+    bool IsBelowCriticalT();
+    bool IsBelowCriticalP();
     bool Toggle(const char* command, std::vector<ChartMark> marks);
     void Refuse(const std::string& text);
     void Notify(Change change = Change::Contents);

@@ -62,14 +62,14 @@ InversionResult HighestInversion(SubstanceModel& model) {
     return {};
 }
 
-// Adds the state at p, T; x is told apart, since the branches store it differently.
-void AddState(CurveRun& run, double x, double p, double T) {
+// Adds the state at p, T, with p times a factor of its own, since the branches store it differently.
+void AddState(CurveRun& run, double p, double pFactor, double T) {
     PhaseVolumes phases;
     EosPhaseVolumes(run.model, T, p, phases);
     if (phases.failed || !(phases.hasL || phases.hasV))
         return;
     const double v = phases.hasL ? phases.vL : phases.vV;
-    run.Add(x, p * run.options.pFactor * v * run.options.volumeFactor, T);
+    run.Add(p * pFactor, p * pFactor * v * run.options.volumeFactor, T);
 }
 
 } // namespace
@@ -125,8 +125,8 @@ void InversionPvOverP(CurveRun& run) {
         last = JouleThomsonInversionT(run.model, p, last.value, upperMarch, 0, 1.3 * last.value);
         if (last.failed)
             return false;
-        // Kept on purpose: x of this branch goes without the factor of the pressure.
-        AddState(run, p, p, last.value);
+        // Kept on purpose: this branch goes without the factor of the pressure.
+        AddState(run, p, 1, last.value);
         return true;
     });
     last.value = lowerStart;
@@ -138,7 +138,7 @@ void InversionPvOverP(CurveRun& run) {
         if (found.failed)
             return true;
         last = found;
-        AddState(run, p * pFactor, p, found.value);
+        AddState(run, p, pFactor, found.value);
         return true;
     });
 }

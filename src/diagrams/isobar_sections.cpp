@@ -42,13 +42,13 @@ void VirialIsobar(CurveRun& run, bool density) {
 void CubicIsobar(CurveRun& run, bool density) {
     const bool subcritical = run.p < run.model.substance.pc;
     double TLV = 0;
-    std::array<double, 3> ends{};
+    std::array<double, 3> found{};
     if (subcritical) {
         const SaturationResult saturation = EosSaturationTemperature(run.model, run.p);
         if (saturation.failed)
             return;
         TLV = saturation.value;
-        ends = run.model.work.Roots;
+        found = run.model.work.Roots;
     }
     WalkGrid(run.spec.yMin, run.spec.yMax, run.stepY, [&](double y) {
         const double T = y / run.options.TFactor;
@@ -64,9 +64,13 @@ void CubicIsobar(CurveRun& run, bool density) {
             run.Add(AbscissaOf(run, v, density), y, run.p);
         return true;
     });
-    if (subcritical)
-        for (const double v : {ends[0], ends[2]})
-            run.AddOutsideTest(AbscissaOf(run, v, density), TLV * run.options.TFactor, run.p);
+    if (!subcritical)
+        return;
+    SetEosCoefficients(run.model, TLV);
+    const std::array<double, 3> ends =
+        SolveEosCubic(run.model, TLV, run.p).rootCount == 3 ? run.model.work.Roots : found;
+    for (const double v : {ends[0], ends[2]})
+        run.Add(AbscissaOf(run, v, density), TLV * run.options.TFactor, run.p);
 }
 
 void IsobarLoop(CurveRun& run, bool density) {

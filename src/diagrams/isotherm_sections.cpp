@@ -81,7 +81,7 @@ void SubcriticalIsotherm(CurveRun& run, const IsothermOrdinate& ordinate) {
     if (saturation.failed)
         return;
     const double pLV = saturation.value;
-    const std::array<double, 3> ends = run.model.work.Roots;
+    const std::array<double, 3> found = run.model.work.Roots;
     WalkClampedGrid(run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
         const double p = std::max(x / run.options.pFactor, lowestSubcriticalP);
         const CubicSolution cubic = SolveEosCubic(run.model, run.T, p);
@@ -93,6 +93,8 @@ void SubcriticalIsotherm(CurveRun& run, const IsothermOrdinate& ordinate) {
         return true;
     });
     const double x = pLV * run.options.pFactor;
+    const std::array<double, 3> ends =
+        SolveEosCubic(run.model, run.T, pLV).rootCount == 3 ? run.model.work.Roots : found;
     run.AddOutsideTest(x, ordinate.ofVolume(run, pLV, ends[2]), run.T);
     run.AddOutsideTest(x, ordinate.ofVolume(run, pLV, ends[0]), run.T);
     SortCurveByX(run.curve.Count(), run.curve);

@@ -94,8 +94,8 @@ void ResidualOverT(CurveRun& run) {
 void ResidualOverP(CurveRun& run) {
     run.curve.SetZKind(zTemperature);
     const double pFactor = run.options.pFactor;
-    const double high = run.options.partialCurveGasOnly ? run.outcome.pSatCurve * pFactor
-                                                        : static_cast<double>(run.spec.xMax);
+    const bool gasOnly = run.options.partialCurveGasOnly && run.T < run.model.substance.Tc;
+    const double high = gasOnly ? run.outcome.pSatCurve * pFactor : static_cast<double>(run.spec.xMax);
     const bool mayJump = run.HasLoop() && run.HasTieLine();
     double pLV = mayJump ? EosSaturationPressure(run.model, run.T).value : passed;
     WalkClampedGrid(high, run.spec.xMin, -run.stepX, [&](double x) {

@@ -228,6 +228,18 @@ void SetAxis(QCPAxis& axis, const std::string& title, bool logarithmic, bool gri
     axis.grid()->setSubGridVisible(grid && logarithmic);
 }
 
+// In one line where the sheet has room for it, else the last part below.
+QString SubHeading(const QStringList& parts) {
+    constexpr qsizetype longestLine = 100;
+    QString text = parts.join(QString()).trimmed();
+    if (text.size() <= longestLine || parts.size() < 2)
+        return text;
+    QString last = parts.last();
+    while (last.startsWith(',') || last.startsWith(' '))
+        last.remove(0, 1);
+    return parts.mid(0, parts.size() - 1).join(QString()).trimmed() + '\n' + last.trimmed();
+}
+
 void SetHeading(QCustomPlot& plot, const ChartDocument& chart) {
     QStringList lines;
     for (const std::string& line : chart.headingLines)
@@ -235,7 +247,7 @@ void SetHeading(QCustomPlot& plot, const ChartDocument& chart) {
     if (auto* heading = plot.findChild<QCPTextElement*>(headingName))
         heading->setText(lines.isEmpty() ? QString() : lines.first().trimmed());
     if (auto* subHeading = plot.findChild<QCPTextElement*>(subHeadingName))
-        subHeading->setText(lines.mid(1).join(QString()).trimmed());
+        subHeading->setText(SubHeading(lines.mid(1)));
 }
 
 // The smallest positive value of a coordinate among the points in view; 0 if there is none.

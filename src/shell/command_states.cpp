@@ -146,6 +146,19 @@ constexpr EnablingRule enablingRules[] = {
     {VapourPressureFunctionsOpened, "mnuCalc_sub_sub_database", 2, Enable, HasRange<&SubstanceData::antoineLow>},
     {VapourPressureFunctionsOpened, "mnuCalc_sub_sub_database", 3, Enable, HasRange<&SubstanceData::antoineHigh>},
 
+    {DiagramFunctionsOpened, "mnuGraf_sub_database", 1, Enable, HasLiquidDensity},
+    {DiagramFunctionsOpened, "mnuGraf_sub_database", 2, Enable, HasLiquidDensity},
+    {DiagramFunctionsOpened, "mnuGraf_sub_database", 3, Enable, HasSolidDensity},
+    {DiagramFunctionsOpened, "mnuGraf_sub_database", 4, Enable, HasVaporisation},
+    {DiagramFunctionsOpened, "mnuGraf_sub_database", 5, Enable, HasIdealGasCp},
+    {DiagramFunctionsOpened, "mnuGraf_sub_database", 6, Enable, HasLiquidCp},
+    {DiagramFunctionsOpened, "mnuGraf_sub_database", 7, Enable, HasSolidCp},
+
+    {DiagramVapourPressuresOpened, "mnuGraf_sub_sub_database", 0, Enable, HasRange<&SubstanceData::frostKalkwarf>},
+    {DiagramVapourPressuresOpened, "mnuGraf_sub_sub_database", 1, Enable, HasRange<&SubstanceData::wagner>},
+    {DiagramVapourPressuresOpened, "mnuGraf_sub_sub_database", 2, Enable, HasRange<&SubstanceData::antoineLow>},
+    {DiagramVapourPressuresOpened, "mnuGraf_sub_sub_database", 3, Enable, HasRange<&SubstanceData::antoineHigh>},
+
     {BatchModeOn, "mnuCalc", 15, Enable, Never},
     {BatchModeOn, "mnuCalc", 16, Enable, Never},
     {BatchModeOn, "mnuCalc", 1, Show, Always},

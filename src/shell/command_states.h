@@ -24,6 +24,8 @@ enum class SessionEvent : std::uint8_t {
     CalculationMenuOpened,
     DatabaseFunctionsOpened,
     VapourPressureFunctionsOpened,
+    DiagramFunctionsOpened,
+    DiagramVapourPressuresOpened,
     BatchModeOn,
     BatchModeOff
 };
@@ -48,6 +50,9 @@ public:
     // Enabled with all menus above it.
     bool Reachable(int row) const;
     bool Visible(int row) const { return states.at(static_cast<std::size_t>(row)).visible; }
+    // The mark of the diagram chosen last; it moves with each choice.
+    bool Checked(int row) const { return row == checkedDiagram; }
+    void CheckDiagram(int row) { checkedDiagram = row; }
     const std::string& Text(int row) const { return states.at(static_cast<std::size_t>(row)).text; }
     // What the rules alone say, without regard to whether the command is built.
     bool Allowed(int row) const { return states.at(static_cast<std::size_t>(row)).enabled; }
@@ -66,6 +71,7 @@ private:
 
     std::vector<State> states;
     std::vector<bool> toolbar; // parallel to the toolbar table
+    int checkedDiagram = -1;
 };
 
 } // namespace orva

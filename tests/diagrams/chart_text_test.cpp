@@ -30,23 +30,67 @@ std::pair<double, double> SameScale(double x, double y) {
     return {x * 100, y / 10};
 }
 
-TEST(CurveDescriptionText, NamesWhatIsConstant) {
+struct Description {
     DiagramSpec spec;
     CurveMode mode;
     CurveRequest request;
-    request.curveT = 150;
-    request.curveP = 101.325;
-    request.curveV = 0.0998;
-    spec.curveKind = curveIsotherm;
-    EXPECT_EQ(DescribeCurve({spec, mode, request, {}}), "150.0 K ");
-    request.curveT = 190.564;
-    EXPECT_EQ(DescribeCurve({spec, mode, request, {','}}), "190,56 K ");
-    spec.curveKind = curveIsobar;
-    EXPECT_EQ(DescribeCurve({spec, mode, request, {}}), "101.33 kPa ");
-    spec.curveKind = curveIsochor;
-    EXPECT_EQ(DescribeCurve({spec, mode, request, {}}), "0.0998 m^3/kmol ");
-    mode.tieLineMode = true;
-    EXPECT_EQ(DescribeCurve({spec, mode, request, {}}), "Konnode V-L ");
+    Options options;
+
+    std::string Text(NumberStyle style = {}) const {
+        return DescribeCurve({spec, mode, request, options, 0.0985, style});
+    }
+};
+
+TEST(CurveDescriptionText, NamesWhatIsConstant) {
+    Description d;
+    d.request.curveT = 150;
+    d.request.curveP = 101.325;
+    d.request.curveV = 0.0998;
+    d.spec.curveKind = curveIsotherm;
+    EXPECT_EQ(d.Text(), "150.0 K ");
+    d.request.curveT = 190.564;
+    EXPECT_EQ(d.Text({','}), "190,56 K ");
+    d.spec.curveKind = curveIsobar;
+    EXPECT_EQ(d.Text(), "101.33 kPa ");
+    d.spec.curveKind = curveIsochor;
+    EXPECT_EQ(d.Text(), "0.0998 m^3/kmol ");
+    d.mode.tieLineMode = true;
+    EXPECT_EQ(d.Text(), "Konnode V-L ");
+}
+
+TEST(CurveDescriptionText, NamesTheBoundaryOfTheCoexistenceCommand) {
+    Description d;
+    d.spec.curveKind = curveProjection;
+    EXPECT_EQ(d.Text(), "VLE ");
+    d.mode.coexistenceMode = true;
+    EXPECT_EQ(d.Text(), "VLE  (L)");
+    d.mode.vapourFraction = 1;
+    EXPECT_EQ(d.Text(), "VLE  (V)");
+    d.mode.vapourFraction = 0.5;
+    EXPECT_EQ(d.Text(), "VLE ");
+}
+
+TEST(CurveDescriptionText, NamesInversionAndNoDatabaseFunction) {
+    Description d;
+    d.spec.curveKind = curveInversion;
+    EXPECT_EQ(d.Text(), "Inversionskurve delta = 0 ");
+    d.spec.curveKind = curveFunctionOfT;
+    EXPECT_EQ(d.Text(), "");
+}
+
+TEST(CurveDescriptionText, TellsTheSideOfAnIsochor) {
+    Description d;
+    d.spec.type = 5;
+    d.spec.curveKind = curveIsochor;
+    d.request.curveV = 0.05;
+    EXPECT_EQ(d.Text(), "0.05 m^3/kmol  (L) ");
+    d.request.curveV = 0.0985;
+    EXPECT_EQ(d.Text(), "0.0985 m^3/kmol  (cr) ");
+    d.request.curveV = 0.5;
+    EXPECT_EQ(d.Text(), "0.5 m^3/kmol  (V) ");
+    d.options.volumeBasis = 1;
+    d.options.volumeFactor = 0.1F;
+    EXPECT_EQ(d.Text(), "0.05 m^3/kg  (V) ");
 }
 
 TEST(NearestPoint, IsTheNearestOnTheSheetNotInTheUnits) {

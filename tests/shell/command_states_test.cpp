@@ -176,6 +176,49 @@ TEST_F(Commands, DatabaseFunctionsNeedTheirData) {
     EXPECT_FALSE(Allowed("mnuCalc_sub_sub_database", 1)); // no upper limit
 }
 
+TEST_F(Commands, DiagramsOfDatabaseFunctionsNeedTheirData) {
+    ReachModels();
+    const auto open = [this] {
+        Enter(SessionEvent::DiagramFunctionsOpened);
+        Enter(SessionEvent::DiagramVapourPressuresOpened);
+    };
+    open();
+    for (int index = 1; index <= 7; ++index)
+        EXPECT_FALSE(Allowed("mnuGraf_sub_database", index)) << index;
+    for (int index = 0; index <= 3; ++index)
+        EXPECT_FALSE(Allowed("mnuGraf_sub_sub_database", index)) << index;
+    substance.rhoLiquid.r2 = -1;
+    substance.cpLiquid.Tlo = 200;
+    substance.wagner.Tlo = 200;
+    substance.wagner.Thi = 400;
+    open();
+    EXPECT_TRUE(Allowed("mnuGraf_sub_database", 1));
+    EXPECT_TRUE(Allowed("mnuGraf_sub_database", 2));
+    EXPECT_FALSE(Allowed("mnuGraf_sub_database", 3));
+    EXPECT_TRUE(Allowed("mnuGraf_sub_database", 6));
+    EXPECT_TRUE(Allowed("mnuGraf_sub_sub_database", 1));
+    EXPECT_FALSE(Allowed("mnuGraf_sub_sub_database", 0));
+}
+
+TEST_F(Commands, EveryDiagramEntryDrawsAndOneIsMarked) {
+    int drawn = 0;
+    for (const CommandRow& row : CommandTable()) {
+        const bool diagram = row.name.starts_with("mnuGraf_sub");
+        if (diagram && row.kind == CommandKind::Command) {
+            EXPECT_EQ(row.action, CommandAction::Draw) << row.name << row.index;
+            ++drawn;
+        }
+    }
+    EXPECT_EQ(drawn, 66);
+    const int first = FindCommand("mnuGraf_sub_cut", 1);
+    const int second = FindCommand("mnuGraf_sub_proj", 6);
+    states.CheckDiagram(first);
+    EXPECT_TRUE(states.Checked(first));
+    states.CheckDiagram(second);
+    EXPECT_FALSE(states.Checked(first));
+    EXPECT_TRUE(states.Checked(second));
+}
+
 TEST_F(Commands, BatchModeRenamesAndCloses) {
     ReachModels();
     Enter(SessionEvent::BatchModeOn);
@@ -205,7 +248,7 @@ TEST_F(Commands, ACommandWithoutAnActionStaysDisabledInItsPlace) {
     EXPECT_FALSE(Enabled("mnuFitting"));
     EXPECT_FALSE(Enabled("mnu3D"));
     EXPECT_TRUE(Enabled("mnu2D"));
-    EXPECT_FALSE(Enabled("mnuGraf", 1));
+    EXPECT_TRUE(Enabled("mnuGraf", 1));
     EXPECT_TRUE(states.ToolbarAllowed(6));
     EXPECT_FALSE(states.ToolbarEnabled(6));
     EXPECT_TRUE(states.ToolbarEnabled(2));

@@ -29,6 +29,30 @@ bool IsLogY(const DiagramWindow& window) {
 bool HasAxis(const DiagramWindow& window, Quantity quantity) {
     return window.Chart().xQuantity == quantity || window.Chart().yQuantity == quantity;
 }
+bool HasTemperatureAxis(const DiagramWindow& window) {
+    return HasAxis(window, Quantity::Temperature);
+}
+bool HasTieLine(const DiagramWindow& window) {
+    const DiagramRow* row = FindDiagram(window.Spec().type);
+    return row != nullptr && (row->tieLine != nullptr || row->type == 3 || row->type == 4);
+}
+bool HasSKurve(const DiagramWindow& window) {
+    const int type = window.Spec().type;
+    return (type >= 1 && type <= 4) || type == 26 || (type >= 15 && type <= 18)
+           || (type >= 150 && type <= 160);
+}
+bool HasCoexistenceCurve(const DiagramWindow& window) {
+    const DiagramRow* row = FindDiagram(window.Spec().type);
+    return row != nullptr && (row->curveKind == curveProjection || CoexistenceTypeOf(row->type) != row->type);
+}
+// Its axes are p and p v, or T and p; the other thermal sections take it as well.
+bool HasInversionCurve(const DiagramWindow& window) {
+    const int type = window.Spec().type;
+    return (type >= 1 && type <= 9) || type == 26 || type == 106;
+}
+bool HasDensities(const DiagramWindow& window) {
+    return window.Spec().type == 8;
+}
 bool HasPressureAxis(const DiagramWindow& window) {
     return HasAxis(window, Quantity::Pressure);
 }
@@ -51,6 +75,7 @@ bool HasDatabaseCriticalPoint(const DiagramWindow& window) {
 template<const char* command> bool IsMarked(const DiagramWindow& window) {
     return window.HasMark(command);
 }
+constexpr char markT[] = "mnuMarkT";
 constexpr char markP[] = "mnuMarkP";
 constexpr char markV[] = "mnuMarkV";
 constexpr char markB[] = "mnuMarkB";
@@ -68,7 +93,7 @@ using G = frmGraph2D;
 
 constexpr DiagramAction actions[] = {
     {"cmdInput", "mnuBild", "&Wert eingeben …", "Ctrl+E", "T, p oder v der nächsten Kurve eingeben", "Wert …",
-     &G::cmdInput, IsOpen, nullptr},
+     &G::cmdInput, TakesValue, nullptr},
     {"cmdDraw", "mnuBild", "Kurve &zeichnen", "F5", "Kurve für den eingestellten Wert zeichnen", "Zeichnen",
      &G::cmdDraw, IsOpen, nullptr},
     {"", "mnuBild", "", "", "", "", nullptr, nullptr, nullptr},
@@ -85,10 +110,18 @@ constexpr DiagramAction actions[] = {
      &G::cmdEscGraph, nullptr, nullptr},
 
     {"mnuMarkKonnode", "mnuAdd", "&Konnode V-L", "Ctrl+K", "Verbindung der beiden Gleichgewichtsphasen",
-     "Konnode", &G::mnuMarkKonnode, IsOpen, nullptr},
+     "Konnode", &G::mnuMarkKonnode, HasTieLine, nullptr},
     {"mnuMarkSKurve", "mnuAdd", "&S-Kurve im Zweiphasengebiet", "Ctrl+R",
-     "Teil der Isotherme zwischen Siede- und Taulinie", "S-Kurve", &G::mnuMarkSKurve, IsOpen, nullptr},
+     "Teil der Isotherme zwischen Siede- und Taulinie", "S-Kurve", &G::mnuMarkSKurve, HasSKurve, nullptr},
+    {"mnuMarkKoex", "mnuAdd", "VL-Koe&xistenzkurve", "Ctrl+G", "Siede- und Taulinie des Diagramms",
+     "Koexistenz", &G::mnuMarkKoex, HasCoexistenceCurve, nullptr},
+    {"mnuMarkInversion", "mnuAdd", "&Inversionskurve", "", "Joule-Thomson-Koeffizient delta = 0", "",
+     &G::mnuMarkInversion, HasInversionCurve, nullptr},
+    {"mnuMarkHalbierende", "mnuAdd", "&Halbierende der Dichten", "",
+     "Mittel aus Flüssigkeits- und Dampfdichte", "", &G::mnuMarkHalbierende, HasDensities, nullptr},
     {"", "mnuAdd", "", "", "", "", nullptr, nullptr, nullptr},
+    {markT, "mnuAdd", "&Temperaturen: T(cr), T(Trip.P.), T(LV)", "", "Marken der T-Achse", "", &G::mnuMarkT,
+     HasTemperatureAxis, IsMarked<markT>},
     {markP, "mnuAdd", "&Drücke: p(cr), p(LV) bei T, Normaldruck", "", "Marken der p-Achse", "", &G::mnuMarkP,
      HasPressureAxis, IsMarked<markP>},
     {markV, "mnuAdd", "kritisches &Volumen", "", "Marke der v-Achse", "", &G::mnuMarkV, HasVolumeAxis,
@@ -117,6 +150,11 @@ constexpr DiagramAction actions[] = {
 };
 
 } // namespace
+
+bool TakesValue(const DiagramWindow& window) {
+    const int kind = window.Spec().curveKind;
+    return window.IsOpen() && kind != curveProjection && kind != curveFunctionOfT;
+}
 
 std::span<const DiagramMenu> DiagramMenus() {
     return menus;

@@ -27,6 +27,9 @@ struct DiagramMenu {
     const char* text;
 };
 
+// A projection and a function of T draw their whole curve without an input.
+bool TakesValue(const DiagramWindow& window);
+
 std::span<const DiagramMenu> DiagramMenus();
 std::span<const DiagramAction> DiagramActions();
 

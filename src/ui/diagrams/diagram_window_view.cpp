@@ -153,8 +153,8 @@ void frmGraph2D::ShowContents() {
     const std::vector<std::string>& heading = window.Chart().headingLines;
     setWindowTitle(heading.empty() ? tr("2D-Diagramm")
                                    : Text(heading[0]) + " – " + Text(window.Spec().typeTitle));
-    coordinates->setText(window.Chart().curveCount > 0 ? QString()
-                                                       : tr("Wert eingeben und zeichnen: Strg+E"));
+    const bool waits = window.Chart().curveCount == 0 && TakesValue(window);
+    coordinates->setText(waits ? tr("Wert eingeben und zeichnen: Strg+E") : QString());
     UpdateActions();
 }
 
@@ -246,7 +246,10 @@ void frmGraph2D::cmdInput() {
 
 void frmGraph2D::cmdDraw() {
     QApplication::setOverrideCursor(Qt::BusyCursor);
-    window.cmdDraw();
+    if (TakesValue(window))
+        window.cmdDraw();
+    else
+        window.DrawAtOnce();
     QApplication::restoreOverrideCursor();
 }
 
@@ -319,6 +322,24 @@ void frmGraph2D::mnuMarkKonnode() {
 
 void frmGraph2D::mnuMarkSKurve() {
     window.mnuMarkSKurve();
+}
+
+void frmGraph2D::mnuMarkKoex() {
+    window.mnuMarkKoex();
+}
+
+void frmGraph2D::mnuMarkInversion() {
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    window.mnuMarkInversion();
+    QApplication::restoreOverrideCursor();
+}
+
+void frmGraph2D::mnuMarkHalbierende() {
+    window.mnuMarkHalbierende();
+}
+
+void frmGraph2D::mnuMarkT() {
+    window.mnuMarkT();
 }
 
 void frmGraph2D::mnuMarkP() {

@@ -42,6 +42,10 @@ public:
     void cmdEscGraph();
     void mnuMarkKonnode();
     void mnuMarkSKurve();
+    void mnuMarkKoex();
+    void mnuMarkInversion();
+    void mnuMarkHalbierende();
+    void mnuMarkT();
     void mnuMarkP();
     void mnuMarkV();
     void mnuMarkB();

@@ -42,6 +42,7 @@ void CommandMenu::AddRow(QMenuBar* bar, int row) {
         connect(action, &QAction::triggered, this, [this, row] { emit Chosen(row); });
     }
     action->setObjectName(key);
+    action->setCheckable(command.action == CommandAction::Draw);
     action->setMenuRole(QAction::NoRole);
     actions.push_back(action);
     menus.push_back(menu);
@@ -56,6 +57,7 @@ void CommandMenu::Refresh(const CommandStates& states) {
         QAction* action = actions[i];
         action->setText(ToQt(states.Text(row)));
         action->setVisible(states.Visible(row));
+        action->setChecked(states.Checked(row));
         action->setEnabled(table[i].name == windowMenu ? states.Allowed(row) : states.Enabled(row));
     }
 }

@@ -2,6 +2,7 @@
 #include "ui/shell/diagram_desk.h"
 
 #include "ui/diagrams/diagram_window_view.h"
+#include "ui/diagrams/limit_input_view.h"
 #include "ui/diagrams/value_input_view.h"
 #include "ui/place_window.h"
 
@@ -24,8 +25,9 @@ bool TakesValue(const DiagramRow& row) {
 
 DiagramDesk::DiagramDesk(Session& ownSession, QWidget* owner)
     : QObject(owner), session(ownSession), window(RecordsOf(session), session.dialogs),
-      input(RecordsOf(session), window, session.dialogs),
-      graph(new frmGraph2D(window, session.dialogs, owner)), valueBox(new frmTpVSInputBox(input, graph)) {
+      input(RecordsOf(session), window, session.dialogs), limits(RecordsOf(session), window, session.dialogs),
+      graph(new frmGraph2D(window, session.dialogs, owner)), valueBox(new frmTpVSInputBox(input, graph)),
+      limitBox(new frmInputProzessLinien(limits, graph)) {
     connect(graph, &frmGraph2D::InputWanted, this, &DiagramDesk::AskForValue);
 }
 
@@ -38,9 +40,13 @@ void DiagramDesk::Open(const DiagramRow& row) {
     if (!window.Open(&row))
         return;
     subject = CurrentSubject();
+    valueBox->close();
+    limitBox->close();
     BringToFront(*graph);
     if (TakesValue(row))
         AskForValue();
+    else
+        window.DrawAtOnce();
 }
 
 DiagramDesk::Subject DiagramDesk::CurrentSubject() const {
@@ -62,16 +68,27 @@ void DiagramDesk::Close() {
     if (graph == nullptr)
         return;
     valueBox->close();
+    limitBox->close();
     graph->close();
 }
 
-void DiagramDesk::AskForValue() {
-    if (!valueBox->isVisible()) {
-        valueBox->adjustSize();
-        PlaceBeside(*valueBox, *graph);
+// A diagram of two functions runs between limits, the others take one value.
+QDialog* DiagramDesk::InputBox() {
+    if (window.Spec().curveCode == "yy") {
+        limitBox->Refresh();
+        return limitBox;
     }
     valueBox->Refresh();
-    BringToFront(*valueBox);
+    return valueBox;
+}
+
+void DiagramDesk::AskForValue() {
+    QDialog& box = *InputBox();
+    if (!box.isVisible()) {
+        box.adjustSize();
+        PlaceBeside(box, *graph);
+    }
+    BringToFront(box);
 }
 
 } // namespace orva

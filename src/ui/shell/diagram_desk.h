@@ -6,12 +6,16 @@
 #include <QObject>
 #include <QPointer>
 
+#include "diagrams/limit_input.h"
 #include "diagrams/value_input.h"
 #include "shell/session.h"
+
+class QDialog;
 
 namespace orva {
 
 class frmGraph2D;
+class frmInputProzessLinien;
 class frmTpVSInputBox;
 
 // The 2D diagram with its two windows. They are made with the first diagram and serve all that follow.
@@ -39,13 +43,16 @@ private:
     };
     Subject CurrentSubject() const;
     void AskForValue();
+    QDialog* InputBox();
 
     Session& session;
     Subject subject;
     DiagramWindow window;
     ValueInput input;
+    LimitInput limits;
     QPointer<frmGraph2D> graph;
     frmTpVSInputBox* valueBox;
+    frmInputProzessLinien* limitBox;
 };
 
 } // namespace orva

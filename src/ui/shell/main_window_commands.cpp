@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagrams/catalogue.h"
+#include "diagrams/diagram_conditions.h"
 #include "shell/road.h"
 #include "shell/status_texts.h"
 #include "ui/calc/diagnosis_window.h"
@@ -96,6 +97,10 @@ void mdiORVA::MenuOpening(int row) {
         session.Enter(SessionEvent::DatabaseFunctionsOpened);
     else if (key == "mnuCalc_sub_database(0)")
         session.Enter(SessionEvent::VapourPressureFunctionsOpened);
+    else if (key == "mnuGraf(10)")
+        session.Enter(SessionEvent::DiagramFunctionsOpened);
+    else if (key == "mnuGraf_sub_database(0)")
+        session.Enter(SessionEvent::DiagramVapourPressuresOpened);
     else if (key == "mnuWindow") {
         ListWindows();
         return;
@@ -160,8 +165,9 @@ void mdiORVA::ShowHelp(const CommandRow&) {
 
 void mdiORVA::DrawDiagram(const CommandRow& command) {
     const DiagramRow* row = FindDiagram(command.argument);
-    if (row == nullptr)
+    if (row == nullptr || !MayDraw(*row, session.model, session.dialogs))
         return;
+    session.commands.CheckDiagram(FindCommand(command.name, command.index));
     if (diagramDesk == nullptr)
         diagramDesk = new DiagramDesk(session, this);
     diagramDesk->Open(*row);
