@@ -14,11 +14,12 @@ namespace orva {
 
 namespace {
 
-constexpr double lowestT = 0.1;          // K
-constexpr double widestVolume = 50;      // times the window
-constexpr double leastFreeVolume = 1.08; // times the co-volume
-constexpr double lowestP = 0.05;         // kPa, where the window begins at 0
-constexpr double pairGrid = 0.3;         // of a step
+constexpr double lowestT = 0.1;             // K
+constexpr double widestVolume = 50;         // times the window
+constexpr double leastFreeVolume = 1.08;    // times the co-volume
+constexpr double lowestP = 0.05;            // kPa, where the window begins at 0
+constexpr double largestHeatCapacity = 1e6; // kJ/(kmol K), beyond every substance
+constexpr double pairGrid = 0.3;            // of a step
 
 struct SaturatedAt {
     double T;
@@ -158,7 +159,8 @@ void CoexistenceFunctionOverVolume(CurveRun& run) {
         run.UseTemperature(Tc);
         const SaturationCaloricResult critical = SaturationCaloric(model, Tc, run.Ambient());
         // Two parts that grow beyond all bounds leave no heat capacity there, but a cancelled rest.
-        const bool cancelled = value == &CaloricValues::cv && !(critical.liquid.cv > 0);
+        const bool cancelled = value == &CaloricValues::cv
+                               && !(critical.liquid.cv > 0 && critical.liquid.cv < largestHeatCapacity);
         if (!critical.failed && !cancelled)
             add(critical, critical.vL, critical.vV, Tc);
     }

@@ -194,6 +194,8 @@ void DiagramWindow::cmdZoomReset() {
 }
 
 void DiagramWindow::Refuse(const std::string& text) {
+    outcome = {}; // that of the curve before tells nothing of this one
+    curve.Clear();
     dialogs.Show({titleRefused, text});
 }
 

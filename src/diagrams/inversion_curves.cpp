@@ -34,6 +34,7 @@ constexpr double leastPressure = 0.03; // kPa, in place of 0
 struct Coefficient {
     double delta = 0, v = 0;
     bool failed = true;
+    bool twoPhase = false; // both phases side by side
 };
 
 // The vapour where it exists; two phases side by side have no coefficient of their own.
@@ -41,11 +42,13 @@ Coefficient JouleThomsonAt(SubstanceModel& model, double T, double p) {
     PhaseVolumes phases;
     EosPhaseVolumes(model, T, p, phases);
     const bool both = phases.hasL && phases.hasV;
-    if (phases.failed || !(phases.hasL || phases.hasV) || (both && phases.rootCount == 3))
+    if (both && phases.rootCount == 3)
+        return {0, 0, true, true};
+    if (phases.failed || !(phases.hasL || phases.hasV))
         return {};
     const double v = phases.hasV ? phases.vV : phases.vL;
     const ResidualState state = ResidualFunctions(model, T, p, v);
-    return {state.table.jouleThomson, v, state.failed};
+    return {state.table.jouleThomson, v, state.failed, false};
 }
 
 InversionResult HighestInversion(SubstanceModel& model) {
@@ -78,18 +81,22 @@ InversionResult JouleThomsonInversionT(SubstanceModel& model, double p, double s
                                        double Tmin, double Tmax) {
     double T = start - 2 * step;
     double last = 0;
+    bool begun = false;
     for (int i = 0; i < mostMarchSteps; ++i, T += step) {
         if (!(T > Tmin && T < Tmax))
             return {};
         const Coefficient coefficient = JouleThomsonAt(model, T, p);
-        if (coefficient.failed || (i == 0 && coefficient.delta == 0))
+        if (coefficient.twoPhase || (!begun && !coefficient.failed && coefficient.delta == 0))
             return {};
-        if (i > 0 && coefficient.delta * last <= 0) {
+        if (coefficient.failed) // near 0 K, where the lower branch begins its march
+            continue;
+        if (begun && coefficient.delta * last <= 0) {
             step *= refinement;
             if (std::abs(step) < smallestStep)
                 return {T, coefficient.v, false};
         }
         last = coefficient.delta;
+        begun = true;
     }
     return {};
 }

@@ -305,6 +305,67 @@ TEST_F(CliProgram, RefusesATieLineAboveTheCriticalPointAsTheWindowDoes) {
         51U);
 }
 
+TEST_F(CliProgram, CoexistenceGivesBothBoundariesOrOneLine) {
+    const Json both = process.Run("curve --substance n-Butan --type 1 --mode coexistence").Answer();
+    ASSERT_EQ(both["curves"].size(), 2U);
+    EXPECT_EQ(both["curves"][0]["vapourFraction"], 0);
+    EXPECT_EQ(both["curves"][1]["vapourFraction"], 1);
+    const Json one =
+        process.Run("curve --substance n-Butan --type 1 --mode coexistence --vapour-fraction 1").Answer();
+    EXPECT_EQ(one["points"], both["curves"][1]["points"]);
+    EXPECT_EQ(one["zKind"], -1);
+    EXPECT_EQ(process.Run("curve --substance n-Butan --type 1 --vapour-fraction 1").exitStatus, 2);
+    EXPECT_EQ(
+        process.Run("curve --substance n-Butan --type 1 --mode coexistence --vapour-fraction 2").exitStatus,
+        2);
+    const ProcessResult refused =
+        process.Run("curve --substance n-Butan --type 1 --eos 15 --mode coexistence");
+    EXPECT_EQ(refused.exitStatus, 1);
+    EXPECT_THAT(refused.error, HasSubstr("VL-Koexistenzkurve nur für kubische EOS möglich."));
+}
+
+TEST_F(CliProgram, LimitsBelongToTheDiagramsOfTwoFunctions) {
+    const Json pair =
+        process.Run("curve --substance n-Butan --type 107 --T 350 --limits 100,900 --points 10").Answer();
+    ASSERT_GE(pair["points"].size(), 10U);
+    EXPECT_EQ(pair["points"][0][2], 100);
+    EXPECT_EQ(process.Run("curve --substance n-Butan --type 1 --limits 100,900").exitStatus, 2);
+    EXPECT_EQ(process.Run("curve --substance n-Butan --type 107 --limits=-1,900").exitStatus, 2);
+}
+
+TEST_F(CliProgram, InversionCurveHasItsZeros) {
+    const Json curve =
+        process.Run("curve --substance n-Butan --type 9 --mode inversion --window 250,2000,0,60000").Answer();
+    EXPECT_EQ(curve["status"], 0);
+    EXPECT_EQ(curve["zKind"], -3);
+    EXPECT_GT(curve["points"].size(), 50U);
+}
+
+TEST_F(CliProgram, AtlasHoldsEveryDiagramInThreeFormsBehindAnIndex) {
+    const ProcessResult result = process.Run("atlas --substance n-Butan --points 50 --out atlas");
+    ASSERT_EQ(result.exitStatus, 0) << result.error;
+    const Json answer = result.Answer();
+    EXPECT_GT(answer["diagrams"].size(), 80U);
+    const std::filesystem::path folder = process.Folder() / "atlas";
+    const std::string index = ReadFile(folder / "index.html").value_or("");
+    for (const Json& page : answer["diagrams"]) {
+        EXPECT_GT(page["curves"], 0);
+        for (const Json& file : page["files"]) {
+            EXPECT_TRUE(FileExists(folder / file.get<std::string>())) << file;
+            EXPECT_THAT(index, HasSubstr(file.get<std::string>()));
+        }
+    }
+    const std::string csv = ReadFile(folder / "type-001.csv").value_or("");
+    EXPECT_THAT(csv, HasSubstr("v / (m^3/kmol);p / kPa;T / K"));
+}
+
+TEST_F(CliProgram, AnAtlasNeedsAFolderThatCanBeMade) {
+    process.Write("file", "");
+    const ProcessResult result = process.Run("atlas --substance n-Butan --out file/atlas");
+    EXPECT_EQ(result.exitStatus, 3);
+    EXPECT_EQ(result.error, "orva-cli: the folder file/atlas cannot be made\n");
+}
+
 TEST_F(CliProgram, SaysThatAnImageCannotBeWritten) {
     const ProcessResult result = process.Run("curve --substance n-Butan --type 1 --svg nowhere/c.svg");
     EXPECT_EQ(result.exitStatus, 3);

@@ -16,7 +16,8 @@ namespace orva::test {
 namespace {
 
 constexpr int substances = 20;
-const std::set<int> sweptRows = {0, 1, 2, 3, eosPengRobinson, 11}; // ideal gas, cubics, a virial equation
+const std::set<int> sweptRows = {eosIdealGas,     2, 3, eosSoaveRedlichKwong,
+                                 eosPengRobinson, 11}; // 11 is a virial equation
 const std::set<int> statuses = {curveGood, curveBelowTriplePoint, curveNoCriticalDensity,
                                 curveTieLineImpossible, curveOutsideWindow};
 
@@ -116,6 +117,7 @@ TEST_F(DiagramSweep, SCurvesEndToo) {
     ForEveryModel(std::max(1, session.state.substanceCount / substances), [&](SubstanceModel& model) {
         if (model.selection.eos != eosPengRobinson)
             return;
+        SetDefaultRanges(session.model, session.options, session.ranges, false);
         for (const int type : {1, 2, 26, 3, 4, 15, 18, 150, 155, 156, 160}) {
             DiagramRecords records = Records();
             SelectDiagram(records, *FindDiagram(type), spec);

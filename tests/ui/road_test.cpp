@@ -7,6 +7,7 @@
 #include "ui/ui_fixture.h"
 
 #include "ui/diagrams/diagram_window_view.h"
+#include "ui/diagrams/limit_input_view.h"
 #include "ui/diagrams/value_input_view.h"
 
 namespace orva::test {
@@ -110,6 +111,27 @@ TEST_F(WholeRoad, DrawsAnIsothermFromTheMenu) {
     Choose("mnuGraf(0)", "mnuGraf_sub_cut(1)");
     EXPECT_NE(Wait<frmTpVSInputBox>(), nullptr);
     EXPECT_EQ(Find<frmGraph2D>(), graph);
+}
+
+TEST_F(WholeRoad, ProjectionsDrawAtOnceAndTheMenuMarksTheDiagram) {
+    AcceptModels("n-Butan");
+    Choose("mnuGraf(9)", "mnuGraf_sub_proj(1)");
+    auto* graph = Find<frmGraph2D>();
+    ASSERT_NE(graph, nullptr);
+    EXPECT_EQ(Find<frmTpVSInputBox>(), nullptr);
+    EXPECT_TRUE(graph->findChild<QAction*>("mnuDelTotal")->isEnabled()); // it has curves
+    EXPECT_TRUE(Command("mnuGraf_sub_proj(1)")->isChecked());
+    Choose("mnuGraf(6)", "mnuGraf_sub_HS(0)");
+    auto* limits = Wait<frmInputProzessLinien>();
+    ASSERT_NE(limits, nullptr);
+    ClickButton(limits, "cmdDraw");
+    EXPECT_TRUE(graph->findChild<QAction*>("mnuDelTotal")->isEnabled());
+    EXPECT_FALSE(Command("mnuGraf_sub_proj(1)")->isChecked());
+    EXPECT_TRUE(Command("mnuGraf_sub_HS(0)")->isChecked());
+    limits->close();
+    Choose("mnuGraf(1)", "mnuGraf_sub_FuT(3)");
+    EXPECT_NE(Wait<frmTpVSInputBox>(), nullptr);
+    EXPECT_TRUE(dialogs.shown.empty());
 }
 
 TEST_F(WholeRoad, ADiagramDoesNotOutliveItsSubstance) {
