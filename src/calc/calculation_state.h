@@ -36,6 +36,10 @@ enum CalcKindNumber : std::int16_t {
     kindSolidDensity = 24
 };
 
+constexpr bool IsVessel(int kind) {
+    return kind == kindVesselGlobal || kind == kindVesselPartial;
+}
+
 // What the input window asks for: kind + 100, or one of these.
 inline constexpr int inputContextReference = 4;
 inline constexpr int inputContextVessel = 33;

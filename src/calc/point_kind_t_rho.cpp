@@ -15,10 +15,6 @@ namespace {
 
 constexpr std::string_view vapourFractionLabel = "Verdampfungsgrad y(V) = ";
 
-bool IsVessel(const PointRun& run) {
-    return run.result.kind == kindVesselGlobal || run.result.kind == kindVesselPartial;
-}
-
 // The pressure that a volume gives, as one phase.
 void TakeVapour(PointRun& run, double p, double v) {
     run.p = p;
@@ -105,7 +101,7 @@ bool SolveSubcritical(PointRun& run, double v) {
     run.p = pLV;
     TakeSaturationRoots(run);
     run.y = (v - run.phases.vL) / (run.phases.vV - run.phases.vL);
-    if (!IsVessel(run) && ShowsTexts(run)) {
+    if (!IsVessel(run.result.kind) && ShowsTexts(run)) {
         AppendLine(run, Spaces(22) + std::string(vapourFractionLabel)
                             + Format(run.y, "0.0#######", run.context.style));
         AppendLine(run, "");

@@ -51,10 +51,6 @@ std::string_view ShortTitle(int kind) {
 
 namespace {
 
-bool IsVessel(int kind) {
-    return kind == kindVesselGlobal || kind == kindVesselPartial;
-}
-
 bool IsEquilibrium(int kind) {
     return kind == kindSaturationPressure || kind == kindSaturationTemperature;
 }

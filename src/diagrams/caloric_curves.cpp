@@ -17,8 +17,6 @@ namespace {
 constexpr int isobarLoopSteps = 40000;
 constexpr int isothermLoopSteps = 50000;
 constexpr double isobarThinning = 1.5;    // of a step in x
-constexpr double besideTieLine = 1e-4;    // K below T(LV), where the liquid goes on
-constexpr double passed = -1e10;          // a T(LV) that no grid comes near
 constexpr double lowestP = 0.1;           // kPa, of a window that begins at 0
 constexpr double insteadOfTension = 0.01; // kPa, for the negative pressures of a loop
 

@@ -73,11 +73,17 @@ void CoexistenceTOver(CurveRun& run, bool density) {
     });
 }
 
-bool HasCriticalDensity(CurveRun& run) {
-    if (run.model.eos.vCritCalc > missingValue)
-        return true;
-    run.outcome.status = curveNoCriticalDensity;
-    return false;
+// The densities over T begin at the critical point; without its volume there is no curve.
+bool StartAtCriticalDensity(CurveRun& run) {
+    const SubstanceModel& model = run.model;
+    run.curve.SetZKind(zPressure);
+    if (!(model.eos.vCritCalc > missingValue)) {
+        run.outcome.status = curveNoCriticalDensity;
+        return false;
+    }
+    run.Add(model.substance.Tc * run.options.TFactor, model.substance.molarMass / model.eos.vCritCalc,
+            model.substance.pc);
+    return true;
 }
 
 } // namespace
@@ -100,12 +106,10 @@ void CoexistenceTOverDensity(CurveRun& run) {
 
 void CoexistenceDensities(CurveRun& run) {
     SubstanceModel& model = run.model;
-    run.curve.SetZKind(zPressure);
-    if (!HasCriticalDensity(run))
+    if (!StartAtCriticalDensity(run))
         return;
     const double M = model.substance.molarMass;
     const double TFactor = run.options.TFactor;
-    run.Add(model.substance.Tc * TFactor, M / model.eos.vCritCalc, model.substance.pc);
     WalkGrid(model.substance.Tc * TFactor, run.spec.xMin, -run.stepX, [&](double x) {
         const double T = x / TFactor;
         if (IsBelowTriplePoint(run, T, model.substance.Ttrip))
@@ -124,12 +128,10 @@ void CoexistenceDensities(CurveRun& run) {
 
 void DensityDiameter(CurveRun& run) {
     SubstanceModel& model = run.model;
-    run.curve.SetZKind(zPressure);
-    if (!HasCriticalDensity(run))
+    if (!StartAtCriticalDensity(run))
         return;
     const double M = model.substance.molarMass;
     const double TFactor = run.options.TFactor;
-    run.Add(model.substance.Tc * TFactor, M / model.eos.vCritCalc, model.substance.pc);
     WalkGrid(model.substance.Tc, run.spec.xMin / TFactor, -diameterGrid * run.stepX / TFactor, [&](double T) {
         if (IsBelowTriplePoint(run, T, model.substance.Ttrip))
             return false;

@@ -47,6 +47,11 @@ struct CurveRun {
     const AmbientState& Ambient();
 };
 
+// Where an isobar jumps over its tie line: the liquid goes on a little below T(LV), and what has been passed
+// once lies where no grid comes near.
+inline constexpr double besideTieLine = 1e-4; // K
+inline constexpr double passed = -1e10;       // K or kPa
+
 // What happens below the triple point: the loop ends, or the curve goes on under a warning.
 enum class TripRule : std::uint8_t {
     Stop,           // ends where only real states are wanted, but not for the ideal gas

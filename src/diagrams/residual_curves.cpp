@@ -13,9 +13,6 @@ namespace orva {
 
 namespace {
 
-constexpr double besideTieLine = 1e-4; // K
-constexpr double passed = -1e10;
-
 enum class Preferred : std::uint8_t { Liquid, Vapour };
 
 // Residual functions of the phase that exists, the preferred one where both do.

@@ -37,10 +37,6 @@ bool RefuseLiquidDensity(Session& session, int kind) {
     return true;
 }
 
-bool IsVessel(int kind) {
-    return kind == kindVesselGlobal || kind == kindVesselPartial;
-}
-
 bool AskForEquilibrium(Session& session) {
     Question question;
     question.title = "T-p-Vorgabe";
