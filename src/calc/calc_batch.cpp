@@ -37,6 +37,7 @@ constexpr KindRow kindTable[] = {
     {kindVesselGlobal, CalculateVessel},
     {kindVesselPartial, CalculateVessel},
     {kindVirialComparison, CompareVirialCoefficients},
+    {kindPolytrope, ShowProcess},
     {kindPRho, CalculateFromPRho},
     {kindLiquidDensity, CalculateDatabaseFunction},
     {kindVaporisationDb, CalculateDatabaseFunction},
@@ -173,7 +174,8 @@ void CommonEnd(PointRun& run) {
     if (cubic)
         JudgeGivenState(run);
     result.phaseVerdict = run.context.model.work.RegionCode;
-    result.lblGleichVisible = cubic && (result.phaseVerdict == 2 || result.phaseVerdict == 4);
+    result.lblGleichVisible =
+        cubic && result.kind != kindPolytrope && (result.phaseVerdict == 2 || result.phaseVerdict == 4);
     if (result.failed) {
         BlankRecord(result.record);
     } else {

@@ -76,6 +76,12 @@ struct VesselResult {
     std::string note; // "ERROR1", "ERROR2", "ERROR3" or empty
 };
 
+// A process that was followed before the result window shows it: where it starts and what it reports.
+struct ProcessPoint {
+    double T = 0, p = 0; // K, kPa
+    std::string report;
+};
+
 // What the function inversion keeps while the program runs.
 struct IsoState {
     int IsoVariable = 0; // 0 T at given p, 1 p at given T
@@ -105,6 +111,7 @@ struct CalculationState {
     std::string CurrentModelText; // the models of the last result, as list and protocol name them
     VesselInput vessel;
     VesselResult vesselResult;
+    ProcessPoint processPoint;
     IsoState iso;
 };
 

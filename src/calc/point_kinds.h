@@ -39,6 +39,9 @@ void CalculateVessel(PointRun& run);
 // Second virial coefficients of all virial rows at T.
 void CompareVirialCoefficients(PointRun& run);
 
+// A process of its own: its start point and the report that came with it.
+void ShowProcess(PointRun& run);
+
 // Functions of T from the database.
 void CalculateDatabaseFunction(PointRun& run);
 

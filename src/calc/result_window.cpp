@@ -150,6 +150,10 @@ bool ResultWindow::OutputVisible() const {
     return context.options.batchMode && !IsFunctionOfT(context.calculation.CalcKind);
 }
 
+bool ResultWindow::PointVisible() const {
+    return context.calculation.CalcKind != kindPolytrope;
+}
+
 bool ResultWindow::ProtocolVisible() const {
     return !IsVessel(context.calculation.CalcKind) && context.calculation.CalcKind != kindPolytrope;
 }

@@ -32,6 +32,8 @@ public:
     const std::string& InputCaption() const { return inputCaption; }
     std::string CloseText() const { return context.options.batchMode ? "Beenden (+Ausgabe)" : "Schließen"; }
 
+    // A process tells of all its states in its report: no given values, no words on a single state.
+    bool PointVisible() const;
     bool StepsEnabled() const { return context.options.batchMode; }
     bool OutputVisible() const;
     bool ProtocolVisible() const;

@@ -94,7 +94,7 @@ std::string CheckMethod(const PointOptions& point, const std::string& kind) {
 
 std::string CheckPoint(const PointOptions& point, const DisplayOptions& display) {
     const std::string kind = "kind " + std::to_string(point.kind);
-    if (!IsKindAvailable(point.kind))
+    if (!IsKindAvailable(point.kind) || point.kind == kindPolytrope)
         return "calculation " + kind + " is not available";
     if (std::string error = CheckMethod(point, kind); !error.empty())
         return error;

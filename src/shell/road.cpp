@@ -176,6 +176,9 @@ CalculationStart DispatchCalculation(Session& session, int kind) {
         return {};
     CalculationStart start;
     const CalculationState& calculation = session.calculation;
+    start.askForProcess = calculation.CalcKind == kindPolytrope;
+    if (start.askForProcess)
+        return start;
     start.askForMethod = AsksForMethod(session);
     if (start.askForMethod)
         return start;
@@ -192,7 +195,20 @@ CalculationStart StartAfterMethod(Session& session) {
     CalculationState& calculation = session.calculation;
     const bool vessel = IsVessel(calculation.CalcKind);
     calculation.InputContext = vessel ? inputContextVessel : calculation.CalcKind + inputContextOffset;
-    return {false, !vessel, !session.options.batchMode};
+    CalculationStart start;
+    start.showResult = !vessel;
+    start.askForPoint = !session.options.batchMode;
+    return start;
+}
+
+CalculationStart StartAfterProcess(Session& session, ProcessPoint point) {
+    BatchRow& start = session.batch.rows.front();
+    start.T = point.T;
+    start.p = point.p;
+    session.calculation.processPoint = std::move(point);
+    CalculationStart next;
+    next.showResult = SetCalculation(session, kindPolytrope, false);
+    return next;
 }
 
 void OpenCalculationMenu(Session& session) {

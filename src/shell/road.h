@@ -40,11 +40,12 @@ void AcceptReference(Session& session);
 
 // The windows that a calculation opens, in this order.
 struct CalculationStart {
-    bool askForMethod = false; // `frmCalcIn` comes first, the others when it is left with OK
+    bool askForMethod = false;  // `frmCalcIn` comes first, the others when it is left with OK
+    bool askForProcess = false; // a process is given first, the result comes with its end
     bool showResult = false;
     bool askForPoint = false;
 
-    bool Opens() const { return askForMethod || showResult || askForPoint; }
+    bool Opens() const { return askForMethod || askForProcess || showResult || askForPoint; }
 };
 
 // A command of the calculation menu: sets the kind, asks whether T and p describe equilibrium, and tells
@@ -59,6 +60,9 @@ CalculationInput MakeCalculationInput(Session& session);
 
 // What opens when `frmCalcIn` was left with OK.
 CalculationStart StartAfterMethod(Session& session);
+
+// What opens when a process was followed to its end.
+CalculationStart StartAfterProcess(Session& session, ProcessPoint point);
 
 // Opening the calculation menu: the hint on a missing data series, and the texts that follow the models.
 void OpenCalculationMenu(Session& session);

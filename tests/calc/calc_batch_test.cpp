@@ -168,7 +168,8 @@ TEST(CalcBatch, RefusesAKindThatItDoesNotKnow) {
     CalculationContext context = c.Context();
     EXPECT_TRUE(CalcBatch(context, 25, 0).failed);
     EXPECT_FALSE(IsKindAvailable(25));
-    EXPECT_TRUE(IsKindAvailable(kindTP));
+    for (int kind = kindTRho; kind <= kindSolidDensity; ++kind)
+        EXPECT_TRUE(IsKindAvailable(kind)) << kind;
 }
 
 TEST(CalcBatch, ARowThatIsNotThereIsARowWithoutValues) {

@@ -285,6 +285,19 @@ TEST_F(CalculationRoad, TheVesselIsEnteredBeforeItsResultIsShown) {
     EXPECT_FALSE(session.calculation.GlobalMethod);
 }
 
+TEST_F(CalculationRoad, AProcessIsFollowedBeforeItsResultIsShown) {
+    const CalculationStart start = DispatchCalculation(session, kindPolytrope);
+    EXPECT_TRUE(start.askForProcess && start.Opens());
+    EXPECT_FALSE(start.askForMethod || start.showResult || start.askForPoint);
+    const CalculationStart after = StartAfterProcess(session, {310, 250, "Polytrope"});
+    EXPECT_TRUE(after.showResult);
+    EXPECT_FALSE(after.askForPoint || after.askForProcess);
+    EXPECT_EQ(session.calculation.CalcKind, kindPolytrope);
+    EXPECT_EQ(session.batch.rows[0].T, 310);
+    EXPECT_EQ(session.batch.rows[0].p, 250);
+    EXPECT_EQ(session.calculation.processPoint.report, "Polytrope");
+}
+
 TEST_F(CalculationRoad, AfterTheMethodABatchRunAsksForNoPoint) {
     session.options.batchMode = true;
     DispatchCalculation(session, kindSaturationPressure);

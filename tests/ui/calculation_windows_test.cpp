@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include "shell/road.h"
 #include "ui/calc/diagnosis_window.h"
 #include "ui/calc/iso_window.h"
 #include "ui/theme.h"
@@ -259,6 +260,24 @@ TEST(DensityInput, OffersAVolumeInstead) {
     form.findChild<QPushButton*>("cmdParameter_OK")->click();
     EXPECT_EQ(batch.rows[0].T, 300);
     EXPECT_EQ(batch.rows[0].rhoV, 29.0F);
+}
+
+TEST_F(CalculationWindows, AProcessShowsItsReportAlone) {
+    BusyCursor busy;
+    const CalculationStart start = StartAfterProcess(*session, {300, 100, "Polytrope\r\n"});
+    ASSERT_TRUE(start.showResult);
+    frmCalcOut form(*session, busy);
+    form.show();
+    form.Calculate();
+    EXPECT_EQ(form.windowTitle(), "Ergebnis der Berechnung Polytropen-Prozess");
+    EXPECT_EQ(In<QPlainTextEdit>(&form, "Liste")->toPlainText().trimmed(), "Polytrope");
+    for (const char* frame : {"fraBatchVorgabe", "fraCalcErweitert", "fraProtokoll"})
+        EXPECT_FALSE(In<QGroupBox>(&form, frame)->isVisible()) << frame;
+    for (const char* label : {"co1", "co2", "lblGleich", "lblLphase"})
+        EXPECT_FALSE(In<QLabel>(&form, label)->isVisible()) << label;
+    EXPECT_FALSE(In<QPushButton>(&form, "cmdIsoCalc")->isEnabled());
+    EXPECT_FALSE(In<QPushButton>(&form, "cmdCEOSDiagnose")->isEnabled());
+    EXPECT_TRUE(dialogs.shown.empty());
 }
 
 } // namespace

@@ -221,6 +221,9 @@ void frmCalcOut::ConnectControls() {
 
 void frmCalcOut::ShowControls() {
     inputFrame->setTitle(ToQt(model.InputCaption()).trimmed());
+    inputFrame->setVisible(model.PointVisible());
+    co1->setVisible(model.PointVisible());
+    co2->setVisible(model.PointVisible());
     cmdRueck->setEnabled(model.StepsEnabled());
     cmdVor->setEnabled(model.StepsEnabled());
     findChild<QGroupBox*>(QStringLiteral("fraCalcErweitert"))->setVisible(model.ExtensionVisible());
