@@ -341,6 +341,9 @@ void mdiORVA::FollowResult() {
     for (QWidget* form : OpenForms()) {
         if (auto* picture = qobject_cast<frmKessel*>(form))
             picture->Show();
+        if (auto* inversion = qobject_cast<frmIsoCalc*>(form);
+            inversion != nullptr && inversion->parentWidget() == resultWindow)
+            inversion->Follow();
         if (auto* diagnosis = qobject_cast<frmCEOSDiagnose*>(form)) {
             if (resultWindow != nullptr && resultWindow->Model().Result().diagnoseEnabled)
                 diagnosis->Show();
