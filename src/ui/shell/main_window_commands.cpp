@@ -330,7 +330,12 @@ void mdiORVA::CalculateVessel() {
     }
     if (inputWindow != nullptr)
         inputWindow->close();
-    ShowResult();
+    if (resultWindow == nullptr) {
+        ShowResult();
+    } else {
+        resultWindow->Calculate();
+        BringToFront(*resultWindow);
+    }
     auto* picture = new frmKessel(session, resultWindow);
     PlaceBeside(*picture, *resultWindow);
     ShowForm(picture, Qt::NonModal);
