@@ -59,7 +59,9 @@ std::string FailureText(const PointResult& result) {
     for (const ResultLabel* label : {&result.par1, &result.par2, &result.co1, &result.co2})
         if (label->colour == TextColour::Red)
             return OneLine(label->text);
-    return result.report.empty() ? "no result" : OneLine(result.report);
+    if (!result.report.empty())
+        return OneLine(result.report);
+    return result.messages.empty() ? "no result" : OneLine(result.messages.back().text);
 }
 
 std::string ResultText(const PointResult& result) {
