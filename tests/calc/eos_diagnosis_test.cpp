@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "calc/eos_diagnosis.h"
@@ -153,6 +154,10 @@ TEST_F(Diagnosis, PictureShowsTheLoopTheIsobarAndTheRoots) {
         EXPECT_GT(picture.vMax, d.lines[2].v);
         EXPECT_LT(picture.pMin, d.p);
         EXPECT_GT(picture.pMax, d.p);
+        for (const DiagnosisLine& line : d.lines) // the curve goes through every root
+            EXPECT_TRUE(std::any_of(picture.curve.begin(), picture.curve.end(),
+                                    [&](const IsothermPoint& point) { return point.v == line.v; }))
+                << T;
         double top = 0;
         for (const IsothermPoint& point : picture.upperLobe) {
             EXPECT_GE(point.p, d.p * (1 - 1e-4)) << T;
