@@ -161,6 +161,8 @@ EosDiagnosis DiagnoseEos(const EosStateRecord& state, SubstanceModel model, cons
     const SolvedRoots roots = RootsOf(state, model);
     diagnosis.lblixk = std::to_string(roots.count);
     diagnosis.threeRoots = roots.count == threeRootCount;
+    if (roots.count == 0)
+        return diagnosis;
     for (std::size_t i = 0; i < diagnosis.lines.size(); ++i) {
         DiagnosisLine& line = diagnosis.lines[i];
         line.visible = i == 0 || diagnosis.threeRoots;

@@ -61,7 +61,9 @@ std::string FailureText(const PointResult& result) {
             return OneLine(label->text);
     if (!result.report.empty())
         return OneLine(result.report);
-    return result.messages.empty() ? "no result" : OneLine(result.messages.back().text);
+    if (!result.messages.empty())
+        return OneLine(result.messages.back().text);
+    return result.co2.text.empty() ? "no result" : OneLine(result.co2.text);
 }
 
 std::string ResultText(const PointResult& result) {

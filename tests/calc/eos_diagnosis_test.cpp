@@ -197,6 +197,18 @@ TEST_F(Diagnosis, PictureOfOneRootHoldsItInTheWindow) {
     }
 }
 
+TEST_F(Diagnosis, OfACalculationWithoutTheCubicEquationNamesNoRoot) {
+    At(300, 100); // leaves its roots
+    c.batch.rows[0].T = 100;
+    CalculationContext context = c.Context();
+    CalcBatch(context, kindSolidDensity, 0);
+    const EosDiagnosis d = Of();
+    EXPECT_EQ(d.lblixk, "0");
+    for (const DiagnosisLine& line : d.lines)
+        EXPECT_TRUE(!line.visible && line.solution.empty() && line.stability.empty());
+    EXPECT_TRUE(DrawIsotherm(d, c.model).curve.empty());
+}
+
 TEST_F(Diagnosis, WithoutAStateThereIsNoPicture) {
     const EosDiagnosis d = DiagnoseEos({}, c.model, c.names, {});
     EXPECT_TRUE(DrawIsotherm(d, c.model).curve.empty());
