@@ -105,6 +105,15 @@ TEST_F(DiagnosisWindow, RootsAndTheirNamesLieWholeInThePicture) {
     }
 }
 
+TEST_F(DiagnosisWindow, ThePictureTakesTheWidthThatIsThere) {
+    Calculate(kindTP, 300, 100);
+    frmCEOSDiagnose form(*session);
+    Expose(form);
+    auto* plot = In<QCustomPlot>(&form, "chart");
+    plot->replot();
+    EXPECT_LT(plot->width() - plot->axisRect()->right(), 30);
+}
+
 TEST_F(DiagnosisWindow, TheHeadingShowsASmallPressureWithAllItsDigits) {
     Calculate(kindTP, 140, 0.0001);
     frmCEOSDiagnose form(*session);
