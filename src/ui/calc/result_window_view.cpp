@@ -217,6 +217,7 @@ void frmCalcOut::ConnectControls() {
     connect(chkFuncPrint, &QCheckBox::clicked, this, [this](bool on) { model.SetPrintFunctions(on); });
     connect(cmbSep, &QComboBox::activated, this, [this](int index) {
         session.options.listSeparator = listSeparators.at(static_cast<std::size_t>(index));
+        ShowProtocol(); // the list of choices may have been a window of its own
     });
     connect(cmdProtokoll, &QPushButton::clicked, this, &frmCalcOut::RecordResult);
     connect(cmdOpenNew, &QPushButton::clicked, this, &frmCalcOut::CloseProtocol);
