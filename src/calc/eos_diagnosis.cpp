@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/eos_diagnosis.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "text/columns.h"
@@ -15,12 +16,16 @@ constexpr int threeRootCount = 3;
 constexpr int heightOfThree = 8000; // twips
 constexpr double sameRoot = 1e-4;   // relative; T stands in the record as a single
 
-constexpr int curvePoints = 400, lobePoints = 120;
+constexpr int branchPoints = 150, lobePoints = 120;
 constexpr double nearCoVolume = 1.005; // where the curve begins, in co-volumes
-constexpr double besideRoots = 3;      // factor that the window reaches beyond the roots
-constexpr double wholeLoop = 7;        // depth below the isobar, in heights above it, that is shown whole
-constexpr double cutLoop = 3;          // and what is shown of a deeper one
-constexpr double margin = 0.15;        // of the shown height, above and below the loop
+constexpr double besideRoots = 3;      // factor that the window reaches beyond the roots, at most before them
+constexpr double beforeShare = 0.5; // the same before three roots, as a share of their logarithmic distance
+constexpr double behindShare = 0.3; // and behind them, with room for a name
+constexpr double frameShare = 0.08; // of the logarithmic width, between the frame and the smallest root
+constexpr double nameShare = 0.2;   // of the logarithmic width, behind a single root
+constexpr double wholeLoop = 7;     // depth below the isobar, in heights above it, that is shown whole
+constexpr double cutLoop = 3;       // and what is shown of a deeper one
+constexpr double margin = 0.15;     // of the shown height, above and below the loop
 constexpr double singleRootHeight = 2; // of the pressure, where there is no loop
 
 struct SolvedRoots {
@@ -113,6 +118,38 @@ void FrameSingleRoot(const EosDiagnosis& diagnosis, const SpinodalPoints* spinod
     picture.pMin = std::clamp(spinodal->p[0] * (1 + margin), -picture.pMax, 0.0);
 }
 
+// Roots far apart leave as much room beside them as roots close together.
+void FrameVolumes(const EosDiagnosis& diagnosis, double b, IsothermPicture& picture) {
+    const double first = diagnosis.lines[0].v;
+    const double last = diagnosis.threeRoots ? diagnosis.lines[2].v : first;
+    picture.vMin = b + (first - b) / besideRoots;
+    if (!diagnosis.threeRoots) {
+        picture.vMax = last * besideRoots;
+        return;
+    }
+    const double span = last / first;
+    picture.vMin = std::max(picture.vMin, first / std::pow(span, beforeShare));
+    picture.vMax = last * std::pow(span, behindShare);
+}
+
+// Through every root, however steep the branch of a cold liquid is there.
+void DrawBranches(const EosDiagnosis& diagnosis, const SubstanceModel& model, double from,
+                  IsothermPicture& picture) {
+    const auto draw = [&](double begin, double end, int count) {
+        const std::vector<IsothermPoint> points = IsothermPoints(model, diagnosis.T, begin, end, count);
+        picture.curve.insert(picture.curve.end(), points.begin(), points.end());
+        return points;
+    };
+    draw(from, diagnosis.lines[0].v, branchPoints);
+    std::size_t last = 0;
+    if (diagnosis.threeRoots) {
+        picture.lowerLobe = draw(diagnosis.lines[0].v, diagnosis.lines[1].v, lobePoints);
+        picture.upperLobe = draw(diagnosis.lines[1].v, diagnosis.lines[2].v, lobePoints);
+        last = 2;
+    }
+    draw(diagnosis.lines[last].v, picture.vMax, branchPoints);
+}
+
 } // namespace
 
 EosDiagnosis DiagnoseEos(const EosStateRecord& state, SubstanceModel model, const NameTables& names,
@@ -124,6 +161,8 @@ EosDiagnosis DiagnoseEos(const EosStateRecord& state, SubstanceModel model, cons
     const SolvedRoots roots = RootsOf(state, model);
     diagnosis.lblixk = std::to_string(roots.count);
     diagnosis.threeRoots = roots.count == threeRootCount;
+    if (roots.count == 0)
+        return diagnosis;
     for (std::size_t i = 0; i < diagnosis.lines.size(); ++i) {
         DiagnosisLine& line = diagnosis.lines[i];
         line.visible = i == 0 || diagnosis.threeRoots;
@@ -164,7 +203,6 @@ IsothermPicture DrawIsotherm(const EosDiagnosis& diagnosis, const SubstanceModel
     SetEosCoefficients(own, diagnosis.T);
     const double b = own.eos.B;
     const double first = diagnosis.lines[0].v;
-    const double last = diagnosis.threeRoots ? diagnosis.lines[2].v : first;
     if (!(first > b) || !(diagnosis.p > 0))
         return picture;
     const SpinodalPoints spinodal = SpinodalVolumes(own, diagnosis.T);
@@ -173,21 +211,14 @@ IsothermPicture DrawIsotherm(const EosDiagnosis& diagnosis, const SubstanceModel
         FrameLoop(diagnosis, spinodal, picture);
     else
         FrameSingleRoot(diagnosis, hasLoop ? &spinodal : nullptr, picture);
-    picture.vMin = b + (first - b) / besideRoots;
-    picture.vMax = last * besideRoots;
+    FrameVolumes(diagnosis, b, picture);
     if (!diagnosis.threeRoots && hasLoop) {
         picture.vMin = std::min(picture.vMin, spinodal.v[0]);
-        picture.vMax = std::max(picture.vMax, spinodal.v[1] * besideRoots);
+        picture.vMax = std::max(
+            {picture.vMax, spinodal.v[1] * besideRoots, first * std::pow(first / picture.vMin, nameShare)});
     }
-    picture.curve = IsothermPoints(model, diagnosis.T, b * nearCoVolume, picture.vMax, curvePoints);
-    if (diagnosis.threeRoots) {
-        const auto lobe = [&](std::size_t from, std::size_t to) {
-            return IsothermPoints(model, diagnosis.T, diagnosis.lines[from].v, diagnosis.lines[to].v,
-                                  lobePoints);
-        };
-        picture.lowerLobe = lobe(0, 1);
-        picture.upperLobe = lobe(1, 2);
-    }
+    picture.vMin = std::min(picture.vMin, first / std::pow(picture.vMax / first, frameShare));
+    DrawBranches(diagnosis, model, std::min(b * nearCoVolume, first), picture);
     return picture;
 }
 

@@ -37,7 +37,8 @@ struct EosDiagnosis {
 };
 
 // The record in words. Some calculations leave roots of the saturated state in it while its pressure is that
-// of the point; then the roots are solved once more at T and p. Works on a copy of the model.
+// of the point; then the roots are solved once more at T and p. Others solve no cubic equation at all, and no
+// root has a line. Works on a copy of the model.
 EosDiagnosis DiagnoseEos(const EosStateRecord& state, SubstanceModel model, const NameTables& names,
                          NumberStyle style);
 

@@ -113,6 +113,10 @@ IsoSolution SolveIso(CalculationContext& context, BatchRow& row, bool solveForT,
 
 IsoCalculation::IsoCalculation(CalculationContext ownContext, BatchDataSet& ownBatch)
     : context(ownContext), batch(ownBatch) {
+    Begin();
+}
+
+void IsoCalculation::Begin() {
     IsoState& state = State();
     const bool stillThere = state.moved && Row().T == state.workingT && Row().p == state.workingP;
     if (!stillThere) {
@@ -123,6 +127,19 @@ IsoCalculation::IsoCalculation(CalculationContext ownContext, BatchDataSet& ownB
     CalculateRow();
     TakeExistingPhase();
     FillFields();
+}
+
+bool IsoCalculation::Follow() {
+    const PointResult before = current;
+    CalculateRow();
+    const auto values = [](const PointResult& point) {
+        const auto first = point.results.begin() + slotVolumeV;
+        return std::vector<double>(first, first + 2 * (slotVolumeL - slotVolumeV));
+    };
+    if (before.T == current.T && before.p == current.p && values(before) == values(current))
+        return false;
+    Begin();
+    return true;
 }
 
 void IsoCalculation::CalculateRow() {

@@ -64,10 +64,14 @@ public:
     std::optional<Message> cmdCalc();
     // Back to the point that the input window gave.
     void cmdReset();
+    // Another point in row 0, other units or another reference point: begins anew there. False, and nothing
+    // changed, where the point and its values are those that stand here.
+    bool Follow();
 
 private:
     IsoState& State() const { return context.calculation.iso; }
     BatchRow& Row() const { return batch.rows.front(); }
+    void Begin();
     void CalculateRow();
     void TakeExistingPhase();
     void FillFields();

@@ -152,7 +152,9 @@ void AppendVolumes(PointRun& run, double rho) {
 }
 
 void WarnOutOfRange(PointRun& run, const FunctionLimits& limits) {
-    if (!run.options.warn || !(limits.low - run.T > warnedDistance || run.T - limits.high > warnedDistance))
+    const bool known = limits.high > 0;
+    if (!run.options.warn || !known
+        || !(limits.low - run.T > warnedDistance || run.T - limits.high > warnedDistance))
         return;
     run.result.messages.push_back(
         {"WARNUNG",
@@ -172,6 +174,7 @@ void CalculateDatabaseFunction(PointRun& run) {
         return;
     const FunctionLimits limits = function->limits(run.context.model);
     const FunctionValue found = function->value(run);
+    WarnOutOfRange(run, limits);
     if (found.failed) {
         result.failed = true;
         result.messages.push_back(
@@ -179,7 +182,6 @@ void CalculateDatabaseFunction(PointRun& run) {
         return;
     }
     FillSlots(run, *function, found.value);
-    WarnOutOfRange(run, limits);
     if (!ShowsTexts(run))
         return;
     if (result.kind == kindLiquidDensity || result.kind == kindSolidDensity)

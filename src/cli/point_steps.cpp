@@ -59,7 +59,11 @@ std::string FailureText(const PointResult& result) {
     for (const ResultLabel* label : {&result.par1, &result.par2, &result.co1, &result.co2})
         if (label->colour == TextColour::Red)
             return OneLine(label->text);
-    return result.report.empty() ? "no result" : OneLine(result.report);
+    if (!result.report.empty())
+        return OneLine(result.report);
+    if (!result.messages.empty())
+        return OneLine(result.messages.back().text);
+    return result.co2.text.empty() ? "no result" : OneLine(result.co2.text);
 }
 
 std::string ResultText(const PointResult& result) {

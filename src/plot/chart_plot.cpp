@@ -100,7 +100,6 @@ void PrepareHeading(QCustomPlot& plot, const PlotStyle& style) {
 void PrepareLegend(QCustomPlot& plot, const PlotStyle& style) {
     auto* column = new QCPLayoutGrid;
     plot.plotLayout()->addElement(2, 1, column);
-    column->setMargins(QMargins(4, 0, 12, 0));
     column->addElement(0, 0, plot.legend);
     auto* rest = new QCPLayoutElement(&plot); // takes the height that the entries leave
     column->addElement(1, 0, rest);
@@ -111,9 +110,14 @@ void PrepareLegend(QCustomPlot& plot, const PlotStyle& style) {
     plot.legend->setBorderPen(QPen(gridColour, 1));
     plot.legend->setBrush(Qt::white);
     plot.legend->setIconSize(30, 14);
-    plot.legend->setMargins(QMargins(10, 6, 12, 6));
     plot.legend->setRowSpacing(3);
-    plot.legend->setVisible(false);
+}
+
+// A legend that is not shown leaves its column to the frame.
+void ShowLegend(QCustomPlot& plot, bool shown) {
+    plot.legend->setVisible(shown);
+    plot.legend->setMargins(shown ? QMargins(10, 6, 12, 6) : QMargins());
+    plot.legend->layout()->setMargins(shown ? QMargins(4, 0, 12, 0) : QMargins());
 }
 
 QVector<QCPCurveData> PointsOf(const ChartSeries& series) {
@@ -299,6 +303,7 @@ void PreparePlot(QCustomPlot& plot, const PlotStyle& style) {
     plot.axisRect()->setMinimumMargins(QMargins(12, 6, 20, 10));
     PrepareHeading(plot, style);
     PrepareLegend(plot, style);
+    ShowLegend(plot, false);
 }
 
 void ShowView(QCustomPlot& plot, const ChartDocument& chart) {
@@ -321,7 +326,7 @@ void ShowChart(QCustomPlot& plot, const ChartDocument& chart, const PlotStyle& s
     for (int slot = 1; slot <= largestCurveCount; ++slot)
         if (chart.showLabels && chart.IsTaken(slot) && chart.Series(slot).visible)
             AddLabel(plot, chart, chart.Series(slot), style);
-    plot.legend->setVisible(chart.showLegend && plot.legend->itemCount() > 0);
+    ShowLegend(plot, chart.showLegend && plot.legend->itemCount() > 0);
 }
 
 } // namespace orva

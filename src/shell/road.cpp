@@ -182,7 +182,7 @@ CalculationStart DispatchCalculation(Session& session, int kind) {
     start.askForMethod = AsksForMethod(session);
     if (start.askForMethod)
         return start;
-    start.showResult = !IsVessel(calculation.CalcKind);
+    start.showResult = calculation.CalcKind != kindVesselPartial;
     start.askForPoint = !batch;
     return start;
 }

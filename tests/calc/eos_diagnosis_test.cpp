@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "calc/eos_diagnosis.h"
@@ -153,6 +154,10 @@ TEST_F(Diagnosis, PictureShowsTheLoopTheIsobarAndTheRoots) {
         EXPECT_GT(picture.vMax, d.lines[2].v);
         EXPECT_LT(picture.pMin, d.p);
         EXPECT_GT(picture.pMax, d.p);
+        for (const DiagnosisLine& line : d.lines) // the curve goes through every root
+            EXPECT_TRUE(std::any_of(picture.curve.begin(), picture.curve.end(),
+                                    [&](const IsothermPoint& point) { return point.v == line.v; }))
+                << T;
         double top = 0;
         for (const IsothermPoint& point : picture.upperLobe) {
             EXPECT_GE(point.p, d.p * (1 - 1e-4)) << T;
@@ -190,6 +195,18 @@ TEST_F(Diagnosis, PictureOfOneRootHoldsItInTheWindow) {
         EXPECT_FALSE(picture.curve.empty());
         EXPECT_TRUE(picture.lowerLobe.empty() && picture.upperLobe.empty());
     }
+}
+
+TEST_F(Diagnosis, OfACalculationWithoutTheCubicEquationNamesNoRoot) {
+    At(300, 100); // leaves its roots
+    c.batch.rows[0].T = 100;
+    CalculationContext context = c.Context();
+    CalcBatch(context, kindSolidDensity, 0);
+    const EosDiagnosis d = Of();
+    EXPECT_EQ(d.lblixk, "0");
+    for (const DiagnosisLine& line : d.lines)
+        EXPECT_TRUE(!line.visible && line.solution.empty() && line.stability.empty());
+    EXPECT_TRUE(DrawIsotherm(d, c.model).curve.empty());
 }
 
 TEST_F(Diagnosis, WithoutAStateThereIsNoPicture) {

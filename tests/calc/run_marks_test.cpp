@@ -116,6 +116,17 @@ TEST(DatabaseFunction, WarnsMoreThan10KOutOfItsRange) {
     EXPECT_TRUE(c.Run(kindSolidCp, RowT(9.9), {.warn = false}).messages.empty());
 }
 
+TEST(DatabaseFunction, NamesItsRangeWhereItCannotBeCalculatedToo) {
+    Reported c;
+    const PointResult r = c.Run(kindWagner, RowT(500)); // above T(cr)
+    EXPECT_TRUE(r.failed);
+    ASSERT_EQ(r.messages.size(), 2U);
+    EXPECT_EQ(r.messages[0].text,
+              "T liegt mehr als 10 K außerhalb des Gültigkeitsbereichs der Gleichung\n(T/K = 158...425)");
+    EXPECT_EQ(r.messages[1].text, "Berechnungsfehler aufgetreten");
+    EXPECT_EQ(Reported(eosPengRobinson, vpWagner, Butane()).Run(kindWagner, RowT(300)).messages.size(), 1U);
+}
+
 TEST(DatabaseFunction, SaysThatItsBlockGivesNothing) {
     Reported c(eosPengRobinson, vpWagner, Butane());
     for (const int kind :

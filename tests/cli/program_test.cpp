@@ -165,6 +165,15 @@ TEST_F(CliProgram, AFailedPointHasExitStatusOneAndItsAnswer) {
     EXPECT_EQ(result.Answer()["failed"], true);
 }
 
+TEST_F(CliProgram, APointThatEndsWithABoxNamesItsText) {
+    const ProcessResult result = process.Run("point --substance n-Butan --kind 20 --T 500 --format json");
+    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_THAT(result.error, HasSubstr("the calculation failed: Berechnungsfehler aufgetreten"));
+    EXPECT_EQ(result.Answer()["messages"].size(), 2U);
+    EXPECT_THAT(process.Run("point --substance n-Butan --kind 13 --p 100 --rho 900").error,
+                HasSubstr("the calculation failed: Fehler"));
+}
+
 TEST_F(CliProgram, RefusesWrongUsageInOneLine) {
     for (const char* arguments :
          {"",

@@ -268,10 +268,10 @@ TEST_F(CalculationRoad, VaporisationAsksForTheMethodWithTheReferencePointOnly) {
         }
 }
 
-TEST_F(CalculationRoad, TheVesselIsEnteredBeforeItsResultIsShown) {
+TEST_F(CalculationRoad, ThePartialVesselIsEnteredBeforeItsResultIsShown) {
     const CalculationStart global = DispatchCalculation(session, kindVesselGlobal);
-    EXPECT_TRUE(global.askForPoint);
-    EXPECT_FALSE(global.showResult || global.askForMethod);
+    EXPECT_TRUE(global.showResult && global.askForPoint);
+    EXPECT_FALSE(global.askForMethod);
     EXPECT_EQ(session.calculation.InputContext, 33);
     EXPECT_TRUE(session.calculation.GlobalMethod);
     const CalculationStart partial = DispatchCalculation(session, kindVesselPartial);

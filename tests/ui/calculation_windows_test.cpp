@@ -39,7 +39,7 @@ TEST_F(CalculationWindows, AskForTAndPAndShowTheResultWindowBeneath) {
     EXPECT_FALSE(In<QLineEdit>(input, "par(3)")->isVisible());
     EXPECT_EQ(In<QPushButton>(input, "cmdParameter_OK")->text(), "&Berechnen");
     EXPECT_EQ(output->windowTitle(), "Ergebnis der Berechnung  T, p => rho");
-    EXPECT_EQ(In<QGroupBox>(output, "fraBatchVorgabe")->title(), "Vorgabewert Direkteingabe");
+    EXPECT_EQ(In<QGroupBox>(output, "fraBatchVorgabe")->title(), " Vorgabewert Direkteingabe ");
     EXPECT_EQ(In<QLabel>(output, "par1")->text(), "kein T in diesem Datensatz");
     EXPECT_TRUE(
         In<QLabel>(output, "statusZeile")->text().startsWith("CEOS Peng / Robinson; Wagner;  T(cr)/K = "));
@@ -129,6 +129,29 @@ TEST_F(CalculationWindows, ControlsThatHaveNothingBehindThemAreDisabled) {
     EXPECT_EQ(In<QPushButton>(output, "cmdCalc_OK")->text(), "Schließen");
 }
 
+TEST_F(CalculationWindows, TabWalksFromTheFieldsToTheButtons) {
+    EXPECT_EQ(WalkByTab(), (QStringList{"par(0)", "par(1)", "cmdParameter_OK", "cancel"}));
+}
+
+TEST_F(CalculationWindows, TheReportStaysWhereItWasReadForTheNextPoint) {
+    Enter("300", "100");
+    Click(In<QCheckBox>(output, "ResPlus(1)"));
+    Click(In<QCheckBox>(output, "ResPlus(2)"));
+    QScrollBar* bar = In<QPlainTextEdit>(output, "Liste")->verticalScrollBar();
+    ASSERT_GT(bar->maximum(), 10);
+    EXPECT_EQ(bar->value(), 0);
+    bar->setValue(9);
+    Enter("310", "100");
+    EXPECT_EQ(bar->value(), 9);
+}
+
+TEST_F(CalculationWindows, TheSeparatorFollowsWhenTheWindowComesToTheFront) {
+    session->options.listSeparator = '\t';
+    output->activateWindow();
+    WaitForKeyboard(output);
+    EXPECT_EQ(In<QComboBox>(output, "cmbSep")->currentText(), "Tab");
+}
+
 TEST_F(CalculationWindows, ResultsAreCollectedAndGoToFileAndClipboard) {
     session->style.decimal = ','; // the numbers of the file follow the system
     const std::string file = session->protocol.protocolFile;
@@ -137,7 +160,8 @@ TEST_F(CalculationWindows, ResultsAreCollectedAndGoToFileAndClipboard) {
     ClickButton(output, "cmdProtokoll");
     Enter("310", "100");
     ClickButton(output, "cmdProtokoll");
-    EXPECT_EQ(In<QLabel>(output, "lblProtText2")->text(), ToQt(file) + "    2 Zeilen");
+    EXPECT_EQ(In<QLabel>(output, "lblProtText2")->text(), ToQt(file));
+    EXPECT_EQ(In<QLabel>(output, "lblProtRows")->text(), "2 Zeilen");
     EXPECT_TRUE(In<QPushButton>(output, "cmdOpenNew")->isEnabled());
     auto* separator = In<QComboBox>(output, "cmbSep");
     EXPECT_EQ(separator->currentText(), "Semikolon");

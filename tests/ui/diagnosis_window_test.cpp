@@ -77,12 +77,51 @@ TEST_F(DiagnosisWindow, DrawsTheRootsOnTheIsobarAndBothAreas) {
     }
     EXPECT_EQ(Fills(form), 2);
     const QStringList texts = PlotTexts(form);
-    for (const char* text : {"v(1)\nmetastabil", "v(2)\ninstabil", "v(3)\nstabil", "A(u)", "A(o)", "p"})
+    for (const char* text : {"v(1)", "v(2)", "v(3)", "A(u)", "A(o)"})
         EXPECT_TRUE(texts.contains(QLatin1String(text))) << text;
+}
+
+TEST_F(DiagnosisWindow, RootsAndTheirNamesLieWholeInThePicture) {
+    const std::pair<double, double> states[] = {{380, 1700}, {300, 100},  {300, 0.01}, {200, 2},
+                                                {420, 3500}, {150, 0.01}, {600, 100},  {300, 5000}};
+    for (const auto& [T, p] : states) {
+        Calculate(kindTP, T, p);
+        frmCEOSDiagnose form(*session);
+        Expose(form);
+        auto* plot = In<QCustomPlot>(&form, "chart");
+        plot->replot();
+        const QRect inside = plot->axisRect()->rect();
+        for (const QPointF& marker : Markers(form)) {
+            const QPointF at(plot->xAxis->coordToPixel(marker.x()), plot->yAxis->coordToPixel(marker.y()));
+            EXPECT_TRUE(inside.contains(at.toPoint())) << T << ' ' << p << ' ' << marker.x();
+        }
+        for (int i = 0; i < plot->itemCount(); ++i) {
+            const auto* text = qobject_cast<QCPItemText*>(plot->item(i));
+            if (text == nullptr || text->text()[0] != u'v')
+                continue;
+            const QRectF place(text->topLeft->pixelPosition(), text->bottomRight->pixelPosition());
+            EXPECT_TRUE(inside.contains(place.toRect())) << T << ' ' << p << ' ' << FromQt(text->text());
+        }
+    }
+}
+
+TEST_F(DiagnosisWindow, ThePictureTakesTheWidthThatIsThere) {
+    Calculate(kindTP, 300, 100);
+    frmCEOSDiagnose form(*session);
+    Expose(form);
     auto* plot = In<QCustomPlot>(&form, "chart");
-    for (const QPointF& marker : markers)
-        EXPECT_TRUE(plot->axisRect()->rect().contains(
-            QPointF(plot->xAxis->coordToPixel(marker.x()), plot->yAxis->coordToPixel(marker.y())).toPoint()));
+    plot->replot();
+    EXPECT_LT(plot->width() - plot->axisRect()->right(), 30);
+}
+
+TEST_F(DiagnosisWindow, TheHeadingShowsASmallPressureWithAllItsDigits) {
+    Calculate(kindTP, 140, 0.0001);
+    frmCEOSDiagnose form(*session);
+    Expose(form);
+    auto* plot = In<QCustomPlot>(&form, "chart");
+    const auto* heading = plot->findChild<QCPTextElement*>("subHeading");
+    ASSERT_NE(heading, nullptr);
+    EXPECT_EQ(heading->text(), "T = 140.000 K,  p = 0.0001 kPa");
 }
 
 TEST_F(DiagnosisWindow, OneRootIsASinglePoint) {

@@ -161,6 +161,70 @@ TEST_F(IsoWindow, EscAndItsButtonCloseIt) {
     EXPECT_FALSE(form->isVisible());
 }
 
+TEST_F(IsoWindow, TabWalksFromTheFieldsToTheButtonsAndRoundToTheOptions) {
+    Open(400, 100);
+    EXPECT_EQ(WalkByTab().join(u' ').toStdString(),
+              "txtTpVorgabe txtFuConst txtTpCalc cmdIsoHelp cmdCalc cmdReset cmdEsc optIsoTp(0) "
+              "optIsoPhase(0) OptIsoFu(0)");
+}
+
+// The window as the result window opens it, with the one of the input beside it.
+struct OpenInversion : Workbench {
+    frmParinput* input = nullptr;
+    frmIsoCalc* form = nullptr;
+
+    void SetUp() override {
+        Workbench::SetUp();
+        AcceptModels("n-Butan");
+        Choose("mnuCalcMain", "mnuCalc(11)");
+        input = Wait<frmParinput>();
+        ASSERT_NE(input, nullptr);
+        Enter("400", "100");
+        ClickButton(Find<frmCalcOut>(), "cmdIsoCalc");
+        form = Wait<frmIsoCalc>();
+        ASSERT_NE(form, nullptr);
+    }
+
+    void Enter(const char* T, const char* p) const {
+        In<QLineEdit>(input, "par(0)")->setText(T);
+        In<QLineEdit>(input, "par(1)")->setText(p);
+        ClickButton(input, "cmdParameter_OK");
+    }
+    QString Text(const char* name) const { return In<QLineEdit>(form, name)->text(); }
+};
+
+TEST_F(OpenInversion, KeepsItsSolutionWhenTheResultWindowFollows) {
+    const QString entropy = Text("txtFuConst");
+    In<QLineEdit>(form, "txtTpVorgabe")->setText("150");
+    ClickButton(form, "cmdCalc");
+    EXPECT_TRUE(Text("txtTpCalc").startsWith("T/K = 4"));
+    EXPECT_EQ(Text("txtFuConst"), entropy);
+    Click(In<QCheckBox>(Find<frmCalcOut>(), "ResPlus(1)"));
+    EXPECT_TRUE(Text("txtTpCalc").startsWith("T/K = 4"));
+}
+
+TEST_F(OpenInversion, BeginsAnewAtAnotherPointOfTheInputWindow) {
+    Enter("300", "500"); // a liquid
+    EXPECT_EQ(Text("txtTpVorgabe"), "500");
+    EXPECT_EQ(Text("txtTpCalc"), "");
+    EXPECT_TRUE(In<QRadioButton>(form, "optIsoPhase(1)")->isChecked());
+    const auto& results = Find<frmCalcOut>()->Model().Result().results;
+    EXPECT_DOUBLE_EQ(Text("txtFuConst").toDouble(), results[slotVolumeL + 2]);
+    In<QLineEdit>(form, "txtTpVorgabe")->setText("600");
+    ClickButton(form, "cmdCalc");
+    ClickButton(form, "cmdReset");
+    EXPECT_EQ(session->batch.rows[0].T, 300);
+    EXPECT_EQ(session->batch.rows[0].p, 500);
+}
+
+TEST_F(OpenInversion, FollowsTheUnits) {
+    const double molar = Text("txtFuConst").toDouble();
+    session->options.unitBasis = 3;
+    Find<frmCalcOut>()->Refresh(); // as after the window of the options
+    EXPECT_NEAR(Text("txtFuConst").toDouble(), molar / session->model.substance.molarMass, 1e-12);
+    EXPECT_EQ(In<QLabel>(form, "lblUnit(2)")->text(), "kJ/(kg K)");
+}
+
 TEST_F(IsoWindow, Pictures) {
     Open(400, 100);
     Type("150\r");

@@ -202,15 +202,18 @@ TEST_F(MethodWindow, VesselAsksForVolumeContentAndTemperature) {
     auto* input = Wait<frmParinput>();
     ASSERT_NE(input, nullptr);
     EXPECT_EQ(input->windowTitle(), "Behälter-Berechnung");
-    EXPECT_EQ(Find<frmCalcOut>(), nullptr);
+    auto* output = Find<frmCalcOut>();
+    ASSERT_NE(output, nullptr);
+    EXPECT_EQ(Report(output), ""); // nothing to calculate yet
+    EXPECT_EQ(Find<frmKessel>(), nullptr);
     In<QLineEdit>(input, "par(0)")->setText("0.1");
     In<QLineEdit>(input, "par(1)")->setText("10");
     ClickButton(input, "cmdParameter_OK");
     ASSERT_EQ(dialogs.shown.size(), 1U); // T is missing
     In<QLineEdit>(input, "par(3)")->setText("350");
     ClickButton(input, "cmdParameter_OK");
-    auto* output = Find<frmCalcOut>();
-    ASSERT_NE(output, nullptr);
+    EXPECT_EQ(Find<frmCalcOut>(), output);
+    EXPECT_FALSE(input->isVisible());
     EXPECT_EQ(output->windowTitle(), "Phasenzustand und Druck in einem Behälter (Globalberechnung)");
     EXPECT_FALSE(In<QGroupBox>(output, "fraProtokoll")->isVisible());
     EXPECT_TRUE(Report(output).startsWith("                         Verdampfungsgrad y(V) = 0.19738898\n"));

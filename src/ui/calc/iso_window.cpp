@@ -46,6 +46,7 @@ frmIsoCalc::frmIsoCalc(Session& ownSession, BusyCursor& cursor, QWidget* parent)
     column->addWidget(FunctionFrame());
     column->addWidget(ValueFrame());
     AddButtons(*column);
+    OrderTabs();
     column->setSizeConstraint(QLayout::SetFixedSize);
     ShowFields();
     txtTpVorgabe->setFocus();
@@ -100,7 +101,9 @@ QGroupBox* frmIsoCalc::FunctionFrame() {
         values[at]->setMinimumWidth(metrics.horizontalAdvance(QStringLiteral("-1.234567E-12")));
         grid->addWidget(option, i, 0);
         grid->addWidget(values[at], i, 1);
-        grid->addWidget(new QLabel(ToQt(model.FunctionUnit(i)), frame), i, 2);
+        units[at] = new QLabel(frame);
+        units[at]->setObjectName(ControlName("lblUnit", i));
+        grid->addWidget(units[at], i, 2);
         grid->addWidget(MutedLabel(QLatin1String(functionNames[at]), frame), i, 3);
     }
     grid->setColumnStretch(3, 1);
@@ -162,6 +165,19 @@ void frmIsoCalc::AddButtons(QBoxLayout& column) {
     connect(cmdShowManuInput, &QPushButton::clicked, this, &frmIsoCalc::ManuInputWanted);
 }
 
+// The fields are made before the frames that hold them.
+void frmIsoCalc::OrderTabs() {
+    QWidget* before = findChild<QRadioButton*>(ControlName("OptIsoFu", isoFunctionCount - 1));
+    const auto follow = [&](QWidget* next) {
+        setTabOrder(before, next);
+        before = next;
+    };
+    for (QWidget* field : std::initializer_list<QWidget*>{txtTpVorgabe, txtFuConst, txtTpCalc})
+        follow(field);
+    for (const char* name : {"cmdIsoHelp", "cmdShowManuInput", "cmdCalc", "cmdReset", "cmdEsc"})
+        follow(findChild<QAbstractButton*>(QLatin1String(name)));
+}
+
 void frmIsoCalc::showEvent(QShowEvent* event) {
     cmdShowManuInput->setEnabled(isSignalConnected(QMetaMethod::fromSignal(&frmIsoCalc::ManuInputWanted)));
     QDialog::showEvent(event);
@@ -179,9 +195,19 @@ void frmIsoCalc::ShowFields() {
 }
 
 void frmIsoCalc::ShowValues() {
-    for (int i = 0; i < isoFunctionCount; ++i)
+    for (int i = 0; i < isoFunctionCount; ++i) {
         values[static_cast<std::size_t>(i)]->setText(ToQt(model.CurrentValue(i)));
+        units[static_cast<std::size_t>(i)]->setText(ToQt(model.FunctionUnit(i)));
+    }
     txtTpCalc->setText(ToQt(model.txtTpCalc));
+}
+
+void frmIsoCalc::Follow() {
+    if (!model.Follow())
+        return;
+    for (int i = 0; i < 2; ++i)
+        findChild<QRadioButton*>(ControlName("optIsoPhase", i))->setChecked(i == model.IsoPhase());
+    ShowFields();
 }
 
 void frmIsoCalc::CalculateNow() {

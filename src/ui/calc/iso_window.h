@@ -35,6 +35,9 @@ public:
 
     const IsoCalculation& Model() const { return model; }
 
+    // The result window shows another point, or the same one in other units.
+    void Follow();
+
 signals:
     // Row 0 holds another point: the result window calculates it.
     void WorkingPointChanged();
@@ -50,6 +53,7 @@ private:
     QGroupBox* FunctionFrame();
     QGroupBox* ValueFrame();
     void AddButtons(QBoxLayout& column);
+    void OrderTabs();
     NumberField* AddField(const char* name);
     void ShowFields();
     void ShowValues();
@@ -59,7 +63,7 @@ private:
     Session& session;
     BusyCursor& busy;
     IsoCalculation model;
-    std::array<QLabel*, isoFunctionCount> values{};
+    std::array<QLabel*, isoFunctionCount> values{}, units{};
     QLabel *lblTpVorgabe, *lblFuConst, *lblFuUnit;
     NumberField *txtTpVorgabe, *txtFuConst;
     QLineEdit* txtTpCalc;

@@ -14,7 +14,9 @@ namespace orva {
 namespace {
 
 constexpr double markerSize = 11;
-constexpr double smallestLobe = 0.1; // of the window's height, for a name within it
+constexpr double smallestLobe = 0.1;  // of the window's height, for a name within it
+constexpr double smallestFine = 0.01; // kPa; below, the heading shows all digits
+constexpr double mostDecades = 5;     // of the axis of the volume, with a number at each
 const QColor isobarColour(0x55, 0x5B, 0x63);
 const QColor upperColour(0xE6, 0x9F, 0x00); // orange and blue, which colour-blind eyes tell apart
 const QColor lowerColour(0x56, 0xB4, 0xE9);
@@ -23,13 +25,12 @@ constexpr int fillOpacity = 110;
 struct StabilityRow {
     RootStability stability;
     QColor onLight, onDark;
-    const char* word;
 };
 
 const StabilityRow stabilityRows[] = {
-    {RootStability::Stable, {0x0B, 0x7A, 0x4B}, {0x5F, 0xD3, 0xA0}, "stabil"},
-    {RootStability::Metastable, {0xB2, 0x62, 0x00}, {0xF0, 0xB0, 0x5A}, "metastabil"},
-    {RootStability::Unstable, {0xB7, 0x1C, 0x1C}, {0xFF, 0x8A, 0x80}, "instabil"},
+    {RootStability::Stable, {0x0B, 0x7A, 0x4B}, {0x5F, 0xD3, 0xA0}},
+    {RootStability::Metastable, {0xB2, 0x62, 0x00}, {0xF0, 0xB0, 0x5A}},
+    {RootStability::Unstable, {0xB7, 0x1C, 0x1C}, {0xFF, 0x8A, 0x80}},
 };
 
 const StabilityRow& RowOf(RootStability stability) {
@@ -43,8 +44,10 @@ const StabilityRow& RowOf(RootStability stability) {
 ChartDocument DocumentOf(const EosDiagnosis& diagnosis, const IsothermPicture& picture,
                          const std::string& heading, const NumberStyle numbers) {
     ChartDocument chart;
-    chart.headingLines = {heading, "T = " + Format(diagnosis.T, "###0.000 K", numbers)
-                                       + ",  p = " + Format(diagnosis.p, "####0.0## kPa", numbers)};
+    const std::string p = diagnosis.p < smallestFine ? General(static_cast<float>(diagnosis.p), numbers)
+                                                     : Format(diagnosis.p, "####0.0##", numbers);
+    chart.headingLines = {heading,
+                          "T = " + Format(diagnosis.T, "###0.000 K", numbers) + ",  p = " + p + " kPa"};
     chart.xTitle = "v / (m^3/kmol)";
     chart.yTitle = "p / kPa";
     chart.logX = true;
@@ -106,16 +109,15 @@ void AddLobe(QCustomPlot& plot, const std::vector<IsothermPoint>& lobe, double p
     AddText(plot, name, v, p + 0.35 * (edge - p), Qt::AlignCenter, ink, style, true);
 }
 
-void AddIsobar(QCustomPlot& plot, double p, const PlotStyle& style) {
+void AddIsobar(QCustomPlot& plot, double p) {
     auto* line = new QCPItemStraightLine(&plot);
     line->point1->setCoords(plot.xAxis->range().lower, p);
     line->point2->setCoords(plot.xAxis->range().upper, p);
     line->setPen(QPen(isobarColour, 1.4, Qt::DashLine));
-    AddText(plot, QStringLiteral("p"), plot.xAxis->range().upper, p, Qt::AlignRight | Qt::AlignBottom,
-            isobarColour, style, false);
 }
 
-// The words stand where the isotherm leaves room: of the middle root below the isobar, of the others above.
+// The names stand where the isotherm leaves room: of the middle root below the isobar, of the others above.
+// What the colours mean is said beside the picture.
 void AddRoot(QCustomPlot& plot, const DiagnosisLine& line, int number, double p, const PlotStyle& style) {
     const StabilityRow& row = RowOf(line.kind);
     auto* point = new QCPCurve(plot.xAxis, plot.yAxis);
@@ -126,8 +128,7 @@ void AddRoot(QCustomPlot& plot, const DiagnosisLine& line, int number, double p,
         line.kind == RootStability::Stable ? QBrush(row.onLight) : QBrush(Qt::white), markerSize));
     point->removeFromLegend();
     const auto side = Qt::AlignLeft | (line.kind == RootStability::Unstable ? Qt::AlignTop : Qt::AlignBottom);
-    AddText(plot, QStringLiteral("v(%1)\n%2").arg(number).arg(QLatin1String(row.word)), line.v, p, side,
-            row.onLight, style, true);
+    AddText(plot, QStringLiteral("v(%1)").arg(number), line.v, p, side, row.onLight, style, true);
 }
 
 } // namespace
@@ -140,9 +141,13 @@ QColor ColourOf(RootStability stability, const QPalette& palette) {
 void ShowIsotherm(QCustomPlot& plot, const EosDiagnosis& diagnosis, const IsothermPicture& picture,
                   const std::string& heading, const PlotStyle& style) {
     ShowChart(plot, DocumentOf(diagnosis, picture, heading, {style.decimal}), style);
+    // A diagram begins where points are; here the root of a steep branch counts too.
+    plot.xAxis->setRange(picture.vMin, picture.vMax);
+    const bool wide = std::log10(picture.vMax / picture.vMin) > mostDecades;
+    plot.xAxis->ticker()->setTickCount(wide ? 3 : 5);
     AddLobe(plot, picture.lowerLobe, diagnosis.p, lowerColour, QStringLiteral("A(u)"), style);
     AddLobe(plot, picture.upperLobe, diagnosis.p, upperColour, QStringLiteral("A(o)"), style);
-    AddIsobar(plot, diagnosis.p, style);
+    AddIsobar(plot, diagnosis.p);
     for (std::size_t i = 0; i < diagnosis.lines.size(); ++i)
         if (diagnosis.lines[i].visible)
             AddRoot(plot, diagnosis.lines[i], static_cast<int>(i) + 1, diagnosis.p, style);

@@ -47,6 +47,7 @@ frmParinput::frmParinput(PointInput pointInput, Dialogs& boxes, QWidget* parent)
     buttons->addStretch(1);
     buttons->addWidget(okButton);
     buttons->addWidget(cancel);
+    setTabOrder(okButton, cancel); // it was made before the fields
     column->addSpacing(6);
     column->addLayout(buttons);
     column->setSizeConstraint(QLayout::SetFixedSize);

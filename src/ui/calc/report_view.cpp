@@ -71,6 +71,15 @@ void ReportView::PlaceHeads() {
     place(lblGleich, columnSame);
 }
 
+// Who reads the derivatives of one data set after the other stays at their place.
+void ReportView::ShowText(const QString& text) {
+    QScrollBar* const bars[] = {Liste->verticalScrollBar(), Liste->horizontalScrollBar()};
+    const int places[] = {bars[0]->value(), bars[1]->value()};
+    Liste->setPlainText(text);
+    for (std::size_t i = 0; i < std::size(bars); ++i)
+        bars[i]->setValue(places[i]);
+}
+
 void ReportView::Show(const PointResult& result) {
     lblLphase->setText(ToQt(result.lblLphase));
     lblVphase->setText(ToQt(result.lblVphase));
@@ -80,8 +89,7 @@ void ReportView::Show(const PointResult& result) {
     QPalette colours = palette();
     colours.setColor(QPalette::Text, ReportColour(result.reportColour, colours));
     Liste->setPalette(colours);
-    Liste->setPlainText(
-        ToQt(WithVisibleRules(result.report)).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    ShowText(ToQt(WithVisibleRules(result.report)).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     PlaceHeads();
 }
 

@@ -22,6 +22,7 @@ protected:
 
 private:
     void PlaceHeads();
+    void ShowText(const QString& text);
     QLabel* AddHead(const QString& name);
 
     QWidget* heads;

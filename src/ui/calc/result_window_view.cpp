@@ -78,7 +78,7 @@ QPushButton* frmCalcOut::AddButton(const char* name, const QString& text) {
 }
 
 QGroupBox* frmCalcOut::InputFrame() {
-    auto* frame = new QGroupBox(ToQt(model.InputCaption()).trimmed(), this);
+    auto* frame = new QGroupBox(ToQt(model.InputCaption()), this);
     frame->setObjectName(QStringLiteral("fraBatchVorgabe"));
     auto* row = new QHBoxLayout(frame);
     row->addWidget(par1);
@@ -144,10 +144,17 @@ QGroupBox* frmCalcOut::ProtocolFrame() {
     row->addWidget(cmdProtokoll);
     row->addWidget(cmdOpenNew);
     row->addStretch(1);
+    lblProtRows = MutedLabel(QString(), frame);
+    lblProtRows->setObjectName(QStringLiteral("lblProtRows"));
+    auto* state = new QHBoxLayout;
+    state->setSpacing(24);
+    state->addWidget(lblProtText2);
+    state->addWidget(lblProtRows);
+    state->addStretch(1);
     auto* column = new QVBoxLayout(frame);
     column->setSpacing(4);
     column->addLayout(row);
-    column->addWidget(lblProtText2);
+    column->addLayout(state);
     return frame;
 }
 
@@ -157,12 +164,10 @@ void frmCalcOut::ShowProtocol() {
     const int rows = protocol.protocolRows();
     cmbSep->setCurrentIndex(ListSeparatorIndex(session.options.listSeparator));
     cmdOpenNew->setEnabled(protocol.protocolOpen());
-    QString text = ToQt(protocol.protocolFile);
-    if (rows > 0)
-        text += QStringLiteral("    %1 %2")
-                    .arg(rows)
-                    .arg(rows == 1 ? QStringLiteral("Zeile") : QStringLiteral("Zeilen"));
-    lblProtText2->setText(text);
+    lblProtText2->setText(ToQt(protocol.protocolFile));
+    lblProtRows->setText(QStringLiteral("%1 %2").arg(rows).arg(rows == 1 ? QStringLiteral("Zeile")
+                                                                         : QStringLiteral("Zeilen")));
+    lblProtRows->setVisible(rows > 0);
 }
 
 void frmCalcOut::RecordResult() {
@@ -212,6 +217,7 @@ void frmCalcOut::ConnectControls() {
     connect(chkFuncPrint, &QCheckBox::clicked, this, [this](bool on) { model.SetPrintFunctions(on); });
     connect(cmbSep, &QComboBox::activated, this, [this](int index) {
         session.options.listSeparator = listSeparators.at(static_cast<std::size_t>(index));
+        ShowProtocol(); // the list of choices may have been a window of its own
     });
     connect(cmdProtokoll, &QPushButton::clicked, this, &frmCalcOut::RecordResult);
     connect(cmdOpenNew, &QPushButton::clicked, this, &frmCalcOut::CloseProtocol);
@@ -220,7 +226,7 @@ void frmCalcOut::ConnectControls() {
 }
 
 void frmCalcOut::ShowControls() {
-    inputFrame->setTitle(ToQt(model.InputCaption()).trimmed());
+    inputFrame->setTitle(ToQt(model.InputCaption()));
     inputFrame->setVisible(model.PointVisible());
     co1->setVisible(model.PointVisible());
     co2->setVisible(model.PointVisible());
@@ -273,6 +279,15 @@ void frmCalcOut::Finish() {
     ShowControls();
     close();
     emit Finished();
+}
+
+// Other windows may have changed the separator or the point meanwhile.
+void frmCalcOut::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    cmdIsoCalc->setEnabled(model.IsoCalcEnabled());
+    ShowProtocol();
 }
 
 void frmCalcOut::keyPressEvent(QKeyEvent* event) {

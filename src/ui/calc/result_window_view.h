@@ -43,6 +43,7 @@ signals:
     void Finished();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -53,10 +54,6 @@ private:
     QLayout* ButtonRow();
     QLabel* AddLabel(const char* name);
     QPushButton* AddButton(const char* name, const QString& text);
-
-    Session& session;
-    BusyCursor& busy;
-    ResultWindow model;
     void Step(StepResult result);
     void ShowProtocol();
     void RecordResult();
@@ -65,6 +62,9 @@ private:
     void Finish();
     void ConnectControls();
 
+    Session& session;
+    BusyCursor& busy;
+    ResultWindow model;
     QLabel *par1, *par2, *co1, *co2, *statusZeile;
     QGroupBox* inputFrame = nullptr;
     QCheckBox* chkUHS = nullptr;
@@ -72,7 +72,7 @@ private:
     std::array<QRadioButton*, 3> optResultPrint{};
     QCheckBox* chkFuncPrint = nullptr;
     QComboBox* cmbSep = nullptr;
-    QLabel* lblProtText2 = nullptr;
+    QLabel *lblProtText2 = nullptr, *lblProtRows = nullptr;
     QPushButton *cmdProtokoll = nullptr, *cmdOpenNew = nullptr;
     QPushButton *cmdRueck = nullptr, *cmdVor = nullptr, *cmdIsoCalc = nullptr, *cmdCEOSDiagnose = nullptr;
     ReportView* report;

@@ -330,7 +330,12 @@ void mdiORVA::CalculateVessel() {
     }
     if (inputWindow != nullptr)
         inputWindow->close();
-    ShowResult();
+    if (resultWindow == nullptr) {
+        ShowResult();
+    } else {
+        resultWindow->Calculate();
+        BringToFront(*resultWindow);
+    }
     auto* picture = new frmKessel(session, resultWindow);
     PlaceBeside(*picture, *resultWindow);
     ShowForm(picture, Qt::NonModal);
@@ -341,6 +346,9 @@ void mdiORVA::FollowResult() {
     for (QWidget* form : OpenForms()) {
         if (auto* picture = qobject_cast<frmKessel*>(form))
             picture->Show();
+        if (auto* inversion = qobject_cast<frmIsoCalc*>(form);
+            inversion != nullptr && inversion->parentWidget() == resultWindow)
+            inversion->Follow();
         if (auto* diagnosis = qobject_cast<frmCEOSDiagnose*>(form)) {
             if (resultWindow != nullptr && resultWindow->Model().Result().diagnoseEnabled)
                 diagnosis->Show();
