@@ -119,7 +119,7 @@ SaturationResult Solution(const SubstanceModel& model, double T, double value, c
     const bool critical = model.substance.Tc - T < criticalWidth * model.substance.Tc;
     if (trial.stable == Stable::Unknown || !(trial.three || critical))
         return notFound;
-    return {value, trial.areas.ratio, trial.areas.area1, trial.areas.area2, false};
+    return {value, trial.areas.ratio, trial.areas.area1, trial.areas.area2, false, trial.three};
 }
 
 // Without attraction and co-volume there is no second phase.
