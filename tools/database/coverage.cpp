@@ -98,8 +98,8 @@ std::string CoverageText(const std::vector<CompiledSubstance>& substances, const
     text += "\nThe common fluids (`tools/database/common_fluids.cpp`, "
             + std::to_string(CommonFluids().size())
             + ") have critical point, acentric factor, boiling temperature, vapour pressure, liquid density, "
-              "enthalpy of vaporisation, heat capacities and formation values, but for these gaps, which no "
-              "source at hand fills:\n\n";
+              "enthalpy of vaporisation, heat capacities and formation values";
+    text += incomplete.empty() ? ".\n" : ", but for these gaps, which no source at hand fills:\n\n";
     std::string_view lines = incomplete;
     while (!lines.empty()) {
         const auto end = lines.find('\n');
