@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/function_inversion.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "calc/point_input.h"

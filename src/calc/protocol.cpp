@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/protocol.h"
 
+#include <algorithm>
 #include <system_error>
 
 #include "text/code_page.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/protocol_recovery.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <optional>

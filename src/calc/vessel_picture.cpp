@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/vessel_picture.h"
 
+#include <algorithm>
+
 #include "calc/point_result.h"
 #include "calc/vessel.h"
 

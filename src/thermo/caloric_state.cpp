@@ -73,11 +73,7 @@ bool FillVolumes(SubstanceModel& model, double T, const SaturationResult& satura
         return true;
     }
     PhaseVolumes phases;
-    if (saturation.rootsOfValue)
-        EosPhaseVolumes(model, T, saturation.value,
-                        {saturation.areaRatio, saturation.area1, saturation.area2, false}, phases);
-    else
-        EosPhaseVolumes(model, T, saturation.value, phases);
+    SaturatedPhaseVolumes(model, T, saturation.value, saturation, phases);
     if (phases.failed || !(phases.vL > 0 && phases.vV > 0))
         return false;
     result.vL = phases.vL;

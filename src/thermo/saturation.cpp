@@ -325,4 +325,13 @@ SaturationResult EosSaturationTemperature(SubstanceModel& model, double p, doubl
     return found.failed ? BracketedSaturationTemperature(model, p) : found;
 }
 
+void SaturatedPhaseVolumes(SubstanceModel& model, double T, double p, const SaturationResult& saturation,
+                           PhaseVolumes& state) {
+    if (saturation.rootsOfValue)
+        EosPhaseVolumes(model, T, p, {saturation.areaRatio, saturation.area1, saturation.area2, false},
+                        state);
+    else
+        EosPhaseVolumes(model, T, p, state);
+}
+
 } // namespace orva

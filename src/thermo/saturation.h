@@ -2,6 +2,7 @@
 #pragma once
 
 #include "state/substance_model.h"
+#include "thermo/phase_volumes.h"
 
 namespace orva {
 
@@ -24,5 +25,10 @@ SaturationResult EosSaturationPressure(SubstanceModel& model, double T);
 // T(LV) at p, likewise; fails above p(cr). `Tstart` of 0 means that there is no start value. Below 0.02 p(cr)
 // a scan downward from T(cr) takes the place of the secant search, and Tstart is not used.
 SaturationResult EosSaturationTemperature(SubstanceModel& model, double p, double Tstart = 0);
+
+// Both volumes of the saturated state at T, p that a search has just found: its own roots where it ends on
+// them, which hold where rounding hides the liquid volume from a cubic solved at p.
+void SaturatedPhaseVolumes(SubstanceModel& model, double T, double p, const SaturationResult& saturation,
+                           PhaseVolumes& state);
 
 } // namespace orva

@@ -38,10 +38,10 @@ bool Fail(VaporisationResult& result, VaporisationInfo info) {
 }
 
 bool PressureFromEos(SubstanceModel& model, VaporisationResult& result) {
-    const SaturationResult saturation = EosSaturationPressure(model, result.T);
-    if (saturation.failed)
+    result.saturation = EosSaturationPressure(model, result.T);
+    if (result.saturation.failed)
         return Fail(result, VaporisationInfo::PressureFromEosFailed);
-    result.p = saturation.value;
+    result.p = result.saturation.value;
     result.info = VaporisationInfo::PressureFromEos;
     return true;
 }
@@ -66,10 +66,10 @@ bool FindPressure(SubstanceModel& model, int way, int equation, double rowP, Vap
 }
 
 bool TemperatureFromEos(SubstanceModel& model, VaporisationResult& result) {
-    const SaturationResult saturation = EosSaturationTemperature(model, result.p);
-    if (saturation.failed)
+    result.saturation = EosSaturationTemperature(model, result.p);
+    if (result.saturation.failed)
         return Fail(result, VaporisationInfo::TemperatureFromEosFailed);
-    result.T = saturation.value;
+    result.T = result.saturation.value;
     result.info = VaporisationInfo::TemperatureFromEos;
     return true;
 }
@@ -165,7 +165,7 @@ double Clapeyron(SubstanceModel& model, int way, int equation, const SaturatedDe
 
 double FromCubic(SubstanceModel& model, VaporisationResult& result) {
     PhaseVolumes phases;
-    EosPhaseVolumes(model, result.T, result.p, phases);
+    SaturatedPhaseVolumes(model, result.T, result.p, result.saturation, phases);
     result.rootIndex = phases.rootCount;
     if (!(phases.vL * phases.vV > missingValue))
         return std::nan("");

@@ -7,6 +7,7 @@
 
 #include "state/dialogs.h"
 #include "state/substance_model.h"
+#include "thermo/saturation.h"
 
 namespace orva {
 
@@ -59,6 +60,7 @@ struct VaporisationResult {
     int outside = 0;             // K out of the range of the database function, positive on both sides
     int rootIndex = 0;           // roots of the cubic, models 5 to 7
     double zEosV = 0, zEosL = 0; // factors of the equation of state, model 7
+    SaturationResult saturation; // what model 7 found first
     VaporisationInfo info = VaporisationInfo::None;
     bool failed = false;
     std::vector<Message> warnings; // boxes for values out of their range of validity

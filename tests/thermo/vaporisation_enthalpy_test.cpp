@@ -45,6 +45,26 @@ TEST(VaporisationEnthalpy, AllSevenWaysMeetTheReferenceWithinTheirKind) {
     }
 }
 
+// Below about 1e-3 kPa the cubic solved at the pressure loses the liquid volume to rounding.
+TEST(VaporisationEnthalpy, OfAColdLiquidFromTheCubicMeetsClapeyron) {
+    SubstanceModel model = Model();
+    for (const double T : {112.0, 120.0, 126.0, 130.0}) {
+        const VaporisationResult r = AtT(model, vaporisationCubic, T);
+        ASSERT_FALSE(r.failed) << T;
+        EXPECT_LT(r.p, 1e-3) << T;
+        const double step = 1e-3 * T;
+        const double slope = std::log(EosSaturationPressure(model, T + step).value
+                                      / EosSaturationPressure(model, T - step).value)
+                             / (2 * step);
+        EXPECT_NEAR(r.h, 8.31451 * T * T * (r.zEosV - r.zEosL) * slope, 1e-4 * r.h) << T;
+        VaporisationRequest back;
+        back.p = r.p;
+        const VaporisationResult again = VaporisationEnthalpy(model, vaporisationCubic, vpWagner, back);
+        EXPECT_NEAR(again.T, T, 1e-3);
+        EXPECT_NEAR(again.h, r.h, 2);
+    }
+}
+
 TEST(VaporisationEnthalpy, GivenPressureFindsTheTemperature) {
     SubstanceModel model = Model();
     for (int way = 1; way <= 7; ++way) {
