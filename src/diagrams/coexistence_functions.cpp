@@ -164,6 +164,7 @@ void CoexistenceFunctionOverVolume(CurveRun& run) {
         if (!critical.failed && !cancelled)
             add(critical, critical.vL, critical.vV, Tc);
     }
+    // Kept on purpose: a liquid line whose function turns zigzags between its two sides.
     if (run.mode.vapourFraction == 0)
         SortCurveByY(run.curve.Count(), run.curve);
 }
