@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/input_checks.h"
 
+#include <cmath>
+
 #include "text/columns.h"
 
 namespace orva {
@@ -14,6 +16,11 @@ bool Refuse(PointRun& run, ResultLabel& label, std::string_view text) {
     return false;
 }
 
+// Infinity is no given value either: a data series that was read or computed may hold one.
+bool IsGiven(double value) {
+    return value >= missingValue && std::isfinite(value);
+}
+
 // The heat capacities of single phases are asked for below the triple point too.
 bool WarnsAtTriplePoint(int kind) {
     return kind != kindIdealGasCp && kind != kindSolidCp && kind != kindSolidDensity;
@@ -23,7 +30,7 @@ bool WarnsAtTriplePoint(int kind) {
 
 bool TakeTemperature(PointRun& run, ResultLabel& label) {
     const double T = CurrentRow(run).T;
-    if (!(T >= missingValue))
+    if (!IsGiven(T))
         return Refuse(run, label, "kein T in diesem Datensatz");
     const SubstanceModel& model = run.context.model;
     if (static_cast<float>(T) < model.substance.Ttrip && run.options.warn && !model.selection.nonCubic
@@ -37,7 +44,7 @@ bool TakeTemperature(PointRun& run, ResultLabel& label) {
 
 bool TakePressure(PointRun& run, ResultLabel& label) {
     const double p = CurrentRow(run).p;
-    if (!(p >= missingValue))
+    if (!IsGiven(p))
         return Refuse(run, label, "kein p in diesem Datensatz");
     run.p = p;
     run.result.results[slotP] = p;
@@ -46,7 +53,7 @@ bool TakePressure(PointRun& run, ResultLabel& label) {
 
 bool TakeDensity(PointRun& run, ResultLabel& label) {
     const double rho = CurrentRow(run).rhoV;
-    if (!(rho >= missingValue))
+    if (!IsGiven(rho))
         return Refuse(run, label, "kein rho in diesem Datensatz");
     run.rho = rho;
     run.result.results[slotRhoGlobal] = rho;
@@ -57,7 +64,7 @@ bool TakeDensity(PointRun& run, ResultLabel& label) {
 
 bool TakeLiquidDensity(PointRun& run, ResultLabel& label) {
     const double rho = CurrentRow(run).rhoL;
-    if (!(rho >= missingValue))
+    if (!IsGiven(rho))
         return Refuse(run, label, "kein rho in diesem Datensatz");
     run.rho = rho;
     return true;

@@ -160,7 +160,8 @@ bool TakeVessel(PointRun& run) {
     const SubstanceData& substance = run.context.model.substance;
     const VesselInput& vessel = run.context.calculation.vessel;
     PointResult& result = run.result;
-    if (!(vessel.T * vessel.m * vessel.V > static_cast<float>(missingValue))) {
+    const float product = vessel.T * vessel.m * vessel.V;
+    if (!(product > static_cast<float>(missingValue)) || !std::isfinite(product)) {
         run.endsAtOnce = true;
         result.failed = true;
         return false;

@@ -54,10 +54,10 @@ std::string FileName(int type) {
     return "type-" + std::string(3 - std::min<std::size_t>(digits.size(), 3), '0') + digits;
 }
 
-// Inversion curves reach far beyond the windows of the other diagrams: to about 5 T(cr) and 12 p(cr).
+// Inversion curves reach far beyond the windows of the other diagrams: to about 5 T(cr) and 14 p(cr).
 ChartWindow InversionWindow(const DiagramRow& row, const Session& session) {
     const double T = 6 * session.model.substance.Tc * session.options.TFactor;
-    const double p = 14 * session.model.substance.pc * session.options.pFactor;
+    const double p = 15 * session.model.substance.pc * session.options.pFactor;
     if (row.x.quantity == Quantity::Temperature)
         return {0, T, 0, p};
     const double gasLimit = gasConstant * 6 * session.model.substance.Tc;

@@ -107,7 +107,7 @@ void CaloricOverT(CurveRun& run) {
     const bool mayJump = isobar && run.p < run.model.substance.pc && run.HasTieLine();
     double TLV = mayJump ? EosSaturationTemperature(run.model, run.p).value : passed;
     const double TFactor = run.options.TFactor;
-    WalkClampedGrid(run.spec.xMax, LowerTemperature(run), -run.stepX, [&](double x) {
+    WalkClampedGrid(run, run.spec.xMax, LowerTemperature(run), -run.stepX, [&](double x) {
         double T = x / TFactor;
         if (!PassesTriplePoint(run, T, run.model.substance.Ttrip, TripRule::Stop))
             return false;
@@ -139,7 +139,7 @@ void CaloricOverP(CurveRun& run) {
     const double low = run.spec.xMin > 0 ? static_cast<double>(run.spec.xMin) : lowestP * pFactor;
     const bool mayJump = run.HasLoop() && run.HasTieLine();
     double pLV = mayJump ? EosSaturationPressure(run.model, run.T).value : passed;
-    WalkClampedGrid(high, low, -run.stepX, [&](double x) {
+    WalkClampedGrid(run, high, low, -run.stepX, [&](double x) {
         const double p = x / pFactor;
         if (!PassesTriplePoint(run, p, run.model.substance.ptrip, TripRule::Stop))
             return false;
@@ -177,18 +177,19 @@ void CaloricOverVolume(CurveRun& run) {
         run.Add(v * volumeFactor, absolute ? std::abs(y) : y, p);
     };
     bool jumps = pLV > 0 && !run.mode.sCurveMode;
-    double next = run.spec.xMin; // the grid does not go back below its jump
-    const double step = run.stepX / 2;
-    for (int i = 0; i < mostGridSteps && (step > 0 ? next <= run.spec.xMax + clampReach * step : false);
-         ++i, next += step) {
-        double x = std::min<double>(next, run.spec.xMax);
+    // Upwards in a reversed window too: the grid jumps towards larger volumes and does not go back.
+    const auto [low, high] = std::minmax(run.spec.xMin, run.spec.xMax);
+    const double step = std::abs(run.stepX) / 2;
+    double next = low;
+    for (int i = 0; i < mostGridSteps && next <= high + clampReach * step; ++i, next += step) {
+        double x = std::min<double>(next, high);
         const double B = run.model.selection.nonCubic ? run.model.work.BVirial : run.model.eos.B;
         if (x / volumeFactor <= B)
             continue;
         if (jumps && x / volumeFactor < ends[2]) {
             next = x = ends[2] * volumeFactor;
             jumps = false;
-            if (x > run.spec.xMax)
+            if (x > high)
                 break;
         }
         const double v = x / volumeFactor;
@@ -220,7 +221,7 @@ template<typename Visit> void WalkLimits(CurveRun& run, Visit visit) {
     const auto [low, high] = std::minmax(run.mode.limitLow, run.mode.limitHigh);
     const double step = (high - low) / run.options.curvePoints;
     if (step > 0)
-        WalkGrid(low, high, step, visit);
+        WalkGrid(run, low, high, step, visit);
 }
 
 } // namespace

@@ -66,7 +66,7 @@ bool FunctionOnLine(CurveRun& run, double T, double p, double& y) {
 // Walks down in T from the window's end; `visit` takes x, T and p(LV).
 template<typename Visit> void WalkSaturation(CurveRun& run, Visit visit) {
     SubstanceModel& model = run.model;
-    WalkGrid(run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
         const double T = x / run.options.TFactor;
         if (!PassesTriplePoint(run, T, model.substance.Ttrip, TripRule::Stop))
             return false;
@@ -85,7 +85,7 @@ void CoexistenceFunctionOverP(CurveRun& run) {
     SubstanceModel& model = run.model;
     run.curve.SetZKind(zTemperature);
     AddCriticalPoint(run, true, run.row.property.y);
-    WalkGrid(run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
         const double p = x / run.options.pFactor;
         if (!PassesTriplePoint(run, p, model.substance.ptrip, TripRule::Stop))
             return false;
@@ -133,7 +133,7 @@ void CoexistenceFunctionOverVolume(CurveRun& run) {
     };
     std::vector<double> grid;
     grid.reserve(static_cast<std::size_t>(run.options.curvePoints) + 1);
-    WalkGrid(lowestT, Tc, Tc / run.options.curvePoints, [&](double T) {
+    WalkGrid(run, lowestT, Tc, Tc / run.options.curvePoints, [&](double T) {
         grid.push_back(T);
         return true;
     });
@@ -164,6 +164,7 @@ void CoexistenceFunctionOverVolume(CurveRun& run) {
         if (!critical.failed && !cancelled)
             add(critical, critical.vL, critical.vV, Tc);
     }
+    // Kept on purpose: a liquid line whose function turns zigzags between its two sides.
     if (run.mode.vapourFraction == 0)
         SortCurveByY(run.curve.Count(), run.curve);
 }
@@ -180,7 +181,7 @@ void CoexistencePair(CurveRun& run) {
     };
     const double low = run.mode.pMin > 0 ? run.mode.pMin : lowestP;
     const double high = run.mode.pMax;
-    WalkGrid(low, high, pairGrid * (high - low) / run.options.curvePoints, [&](double displayed) {
+    WalkGrid(run, low, high, pairGrid * (high - low) / run.options.curvePoints, [&](double displayed) {
         const double p = displayed / run.options.pFactor;
         const double T = VapourPressureTemperature(model.substance, p, model.selection.vaporPressure).value;
         if (!(T > missingValue && T <= model.substance.Tc)

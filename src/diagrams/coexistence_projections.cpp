@@ -33,7 +33,7 @@ void CoexistenceOverP(CurveRun& run, bool density) {
     const double M = model.substance.molarMass;
     run.curve.SetZKind(zTemperature);
     double T = 0; // start of the next search
-    WalkGrid(run.spec.xMin, (model.substance.pc - belowCritical) * run.options.pFactor,
+    WalkGrid(run, run.spec.xMin, (model.substance.pc - belowCritical) * run.options.pFactor,
              pressureGrid * run.stepX, [&](double x) {
                  const double p = std::max(x, smallestAbscissa) / run.options.pFactor;
                  if (IsBelowTriplePoint(run, p, model.substance.ptrip))
@@ -61,7 +61,7 @@ void CoexistenceTOver(CurveRun& run, bool density) {
     const double step = temperatureGrid * fine * run.stepY / TFactor;
     run.Add(density ? model.eos.rhoCritCalc : model.eos.vCritCalc * run.options.volumeFactor,
             model.substance.Tc * TFactor, model.substance.pc);
-    WalkGrid(model.substance.Tc - step, run.spec.yMin / TFactor, -step, [&](double T) {
+    WalkIntoWindow(run, model.substance.Tc - step, run.spec.yMin / TFactor, -step, [&](double T) {
         if (IsBelowTriplePoint(run, T, model.substance.Ttrip))
             return false;
         const SaturationResult saturation = EosSaturationPressure(model, T);
@@ -110,7 +110,7 @@ void CoexistenceDensities(CurveRun& run) {
         return;
     const double M = model.substance.molarMass;
     const double TFactor = run.options.TFactor;
-    WalkGrid(model.substance.Tc * TFactor, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkIntoWindow(run, model.substance.Tc * TFactor, run.spec.xMin, -run.stepX, [&](double x) {
         const double T = x / TFactor;
         if (IsBelowTriplePoint(run, T, model.substance.Ttrip))
             return false;
@@ -132,17 +132,18 @@ void DensityDiameter(CurveRun& run) {
         return;
     const double M = model.substance.molarMass;
     const double TFactor = run.options.TFactor;
-    WalkGrid(model.substance.Tc, run.spec.xMin / TFactor, -diameterGrid * run.stepX / TFactor, [&](double T) {
-        if (IsBelowTriplePoint(run, T, model.substance.Ttrip))
-            return false;
-        const SaturationResult saturation = EosSaturationPressure(model, T);
-        const double vL = model.work.Roots[0];
-        const double vV = model.work.Roots[2];
-        // Kept on purpose: the guard leaves out the upper part of the line.
-        if (!saturation.failed && vL * vV >= diameterGuard)
-            run.Add(T * TFactor, (M / vL + M / vV) / 2, saturation.value);
-        return true;
-    });
+    WalkIntoWindow(run, model.substance.Tc, run.spec.xMin / TFactor, -diameterGrid * run.stepX / TFactor,
+                   [&](double T) {
+                       if (IsBelowTriplePoint(run, T, model.substance.Ttrip))
+                           return false;
+                       const SaturationResult saturation = EosSaturationPressure(model, T);
+                       const double vL = model.work.Roots[0];
+                       const double vV = model.work.Roots[2];
+                       // Kept on purpose: the guard leaves out the upper part of the line.
+                       if (!saturation.failed && vL * vV >= diameterGuard)
+                           run.Add(T * TFactor, (M / vL + M / vV) / 2, saturation.value);
+                       return true;
+                   });
 }
 
 } // namespace orva

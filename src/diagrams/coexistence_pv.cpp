@@ -129,7 +129,8 @@ void CoexistenceTrace::Draw() {
     const double vCrit = model.eos.vCritCalc;
     T = StartTemperature();
     step = std::max(std::log(pRange) / firstStepParts, leastFirstStep);
-    if (T == 0 || !FindFirstPoint())
+    const bool noVolumeFits = xMin > xMax || xMax <= 0;
+    if (T == 0 || noVolumeFits || !FindFirstPoint())
         return;
     lastP = 5 * model.substance.pc;
     run.Add(DisplayVolume(vCrit), model.substance.pc * run.options.pFactor, model.substance.Tc);

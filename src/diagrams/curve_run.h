@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include "diagrams/curve_generator.h"
@@ -64,26 +66,42 @@ bool PassesTriplePoint(CurveRun& run, double value, double limit, TripRule rule)
 // True where `curveTpRestricted` leaves out what lies below the triple point; nothing is reported.
 bool IsBelowTriplePoint(const CurveRun& run, double value, double limit);
 
-// No grid of a sensible window comes near, not even the finest of the most points that a curve may have; a
-// window of no extent around a far value would never end.
+// Most steps of a grid: a multiple of those in the window, and never more than the finest grid of the most
+// points that a curve may have. A narrow window far from the ends of the curve would keep the user waiting.
 inline constexpr int mostGridSteps = 140000;
+inline constexpr int mostWindows = 100;
+inline int MostSteps(const CurveRun& run) {
+    return std::min(mostGridSteps, mostWindows * run.options.curvePoints);
+}
 
 // Walks x from `first` to `last` by repeated addition of `step`, as every grid of the generator does; the
-// sums, not the products, are the abscissae. A negative step walks down. `visit` returns false to end.
-template<typename Visit> void WalkGrid(double first, double last, double step, Visit visit) {
+// sums, not the products, are the abscissae. A negative step walks down. `visit` returns false to end. Of too
+// many steps the last are left out.
+template<typename Visit>
+void WalkGrid(const CurveRun& run, double first, double last, double step, Visit visit) {
+    const int most = MostSteps(run);
     int count = 0;
-    for (double x = first; (step > 0 ? x <= last : x >= last) && count < mostGridSteps; x += step, ++count)
+    for (double x = first; (step > 0 ? x <= last : x >= last) && count <= most; x += step, ++count)
         if (!visit(x))
             return;
+}
+
+// The same for a grid that ends in the window and begins elsewhere, at the critical point: of too many steps
+// the first are left out.
+template<typename Visit>
+void WalkIntoWindow(const CurveRun& run, double first, double last, double step, Visit visit) {
+    const double longest = MostSteps(run) * step;
+    WalkGrid(run, std::abs(last - first) > std::abs(longest) ? last - longest : first, last, step, visit);
 }
 
 // The same, with the last value exactly on `last`: the grid reaches `reach` of a step further, and what has
 // passed the end is set back to it.
 inline constexpr double clampReach = 0.9;
 template<typename Visit>
-void WalkClampedGrid(double first, double last, double step, Visit visit, double reach = clampReach) {
+void WalkClampedGrid(const CurveRun& run, double first, double last, double step, Visit visit,
+                     double reach = clampReach) {
     const auto clamped = [&](double x) { return (step > 0 ? x > last : x < last) ? last : x; };
-    WalkGrid(first, last + reach * step, step, [&](double x) { return visit(clamped(x)); });
+    WalkGrid(run, first, last + reach * step, step, [&](double x) { return visit(clamped(x)); });
 }
 
 } // namespace orva

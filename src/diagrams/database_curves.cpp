@@ -63,10 +63,12 @@ double IdealCpAt(const SubstanceModel& model, double T) {
     return found.failed || found.cp == 0 ? std::nan("") : found.cp;
 }
 double LiquidCpAt(const SubstanceModel& model, double T) {
-    return LiquidCp(model.substance, T);
+    const double cp = LiquidCp(model.substance, T);
+    return cp == 0 ? std::nan("") : cp;
 }
 double SolidCpAt(const SubstanceModel& model, double T) {
-    return SolidCp(model.substance, T);
+    const double cp = SolidCp(model.substance, T);
+    return cp == 0 ? std::nan("") : cp;
 }
 double VaporisationAt(const SubstanceModel& model, double T) {
     const VaporisationDbResult found = VaporisationEnthalpyDb(model.substance, T);
@@ -171,7 +173,7 @@ void DatabaseCurve(CurveRun& run) {
     run.spec.dbTMax = range.high;
     run.spec.curveKind = curveFunctionOfT;
     run.spec.curveCode = run.row.curveCode;
-    WalkGrid(run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
         double value = 0;
         const double T = x / run.options.TFactor;
         if (T > 0 && DatabaseValue(run.row.type, run.model, run.options, T, value))

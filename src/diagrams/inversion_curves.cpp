@@ -65,6 +65,17 @@ InversionResult HighestInversion(SubstanceModel& model) {
     return {};
 }
 
+// The lower branch falls with the pressure. Below its summit it falls faster than the march, which begins
+// beside the last temperature, looks back, and would end on the upper branch.
+InversionResult LowerInversion(SubstanceModel& model, double p, double lastT) {
+    const double highest = 4 * model.substance.Tc;
+    const InversionResult found = JouleThomsonInversionT(model, p, lastT, lowerMarch, 0, highest);
+    const bool begun = lastT > lowerStart;
+    if (begun && !found.failed && found.value > lastT)
+        return JouleThomsonInversionT(model, p, lowerStart, lowerMarch, 0, highest);
+    return found;
+}
+
 // Adds the state at p, T, with p times a factor of its own, since the branches store it differently.
 void AddState(CurveRun& run, double p, double pFactor, double T) {
     PhaseVolumes phases;
@@ -126,7 +137,7 @@ void InversionPvOverP(CurveRun& run) {
         return;
     const double pFactor = run.options.pFactor;
     const double xEnd = run.spec.xMax + 2 * run.stepX;
-    WalkGrid(run.spec.xMin, xEnd, 2 * run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMin, xEnd, 2 * run.stepX, [&](double x) {
         const double given = x / pFactor;
         const double p = given < missingValue ? leastPressure : given;
         last = JouleThomsonInversionT(run.model, p, last.value, upperMarch, 0, 1.3 * last.value);
@@ -137,11 +148,10 @@ void InversionPvOverP(CurveRun& run) {
         return true;
     });
     last.value = lowerStart;
-    WalkGrid(xEnd, run.spec.xMin, -2 * run.stepX, [&](double x) {
+    WalkGrid(run, xEnd, run.spec.xMin, -2 * run.stepX, [&](double x) {
         const double given = x / pFactor;
         const double p = given < missingValue ? leastPressure : given;
-        const InversionResult found =
-            JouleThomsonInversionT(run.model, p, last.value, lowerMarch, 0, 4 * run.model.substance.Tc);
+        const InversionResult found = LowerInversion(run.model, p, last.value);
         if (found.failed)
             return true;
         last = found;
@@ -155,7 +165,7 @@ void InversionPOverT(CurveRun& run) {
     constexpr double lowestT = 0.5; // K, in place of 0
     run.curve.SetZKind(zVolume);
     double start = model.substance.pc;
-    WalkGrid(run.spec.xMax, run.spec.xMin, -run.stepX / 3, [&](double x) {
+    WalkGrid(run, run.spec.xMax, run.spec.xMin, -run.stepX / 3, [&](double x) {
         const double given = x / run.options.TFactor;
         const double T = given < missingValue ? lowestT : given;
         if (run.options.curveTpRestricted && T < model.substance.Ttrip)

@@ -27,7 +27,7 @@ bool IsLeftOut(const CurveRun& run, double T) {
 }
 
 void VirialIsobar(CurveRun& run, bool density) {
-    WalkGrid(run.spec.yMin, run.spec.yMax, run.stepY, [&](double y) {
+    WalkGrid(run, run.spec.yMin, run.spec.yMax, run.stepY, [&](double y) {
         const double T = y / run.options.TFactor;
         if (IsLeftOut(run, T))
             return true;
@@ -50,7 +50,7 @@ void CubicIsobar(CurveRun& run, bool density) {
         TLV = saturation.value;
         found = run.model.work.Roots;
     }
-    WalkGrid(run.spec.yMin, run.spec.yMax, run.stepY, [&](double y) {
+    WalkGrid(run, run.spec.yMin, run.spec.yMax, run.stepY, [&](double y) {
         const double T = y / run.options.TFactor;
         if (IsLeftOut(run, T))
             return true;
@@ -129,7 +129,7 @@ void IsochorSection(CurveRun& run) {
     const bool stops = run.options.curveTpRestricted && model.selection.eos > 0;
     run.curve.SetZKind(zVolume);
     WalkClampedGrid(
-        run.spec.xMax, run.spec.xMin, -run.stepX,
+        run, run.spec.xMax, run.spec.xMin, -run.stepX,
         [&](double x) {
             const double T = x / run.options.TFactor;
             if (stops && T < model.substance.Ttrip)

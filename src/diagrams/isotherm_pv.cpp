@@ -13,7 +13,7 @@ namespace {
 void OnePhaseIsotherm(CurveRun& run) {
     const double volumeFactor = run.options.volumeFactor;
     const double pFactor = run.options.pFactor;
-    WalkGrid(run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
         const PressureResult pressure = EosPressure(run.model, run.T, x / volumeFactor);
         if (!pressure.failed)
             run.Add(x, pressure.p * pFactor, run.T);
@@ -37,7 +37,7 @@ void IsothermWithLoop(CurveRun& run) {
     const double vVapour = run.model.work.Roots[2];
     const double volumeFactor = run.options.volumeFactor;
     const double pFactor = run.options.pFactor;
-    WalkGrid(run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
         const double v = x / volumeFactor;
         if (v <= run.model.eos.B || !IsKept(run, v, vLiquid, vVapour))
             return true;

@@ -44,7 +44,7 @@ double UpperPressure(const CurveRun& run) {
 void VirialIsotherm(CurveRun& run, bool density) {
     const double B = run.model.work.BVirial;
     const double RT = gasConstant * run.T;
-    WalkClampedGrid(run.spec.xMin, UpperPressure(run), run.stepX, [&](double x) {
+    WalkClampedGrid(run, run.spec.xMin, UpperPressure(run), run.stepX, [&](double x) {
         double p = x / run.options.pFactor;
         if (density) {
             p = std::max(p, lowestSupercriticalP);
@@ -57,7 +57,7 @@ void VirialIsotherm(CurveRun& run, bool density) {
 }
 
 void SupercriticalIsotherm(CurveRun& run, bool density) {
-    WalkClampedGrid(run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
+    WalkClampedGrid(run, run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
         const double p = std::max(x / run.options.pFactor, lowestSupercriticalP);
         const CubicSolution cubic = SolveEosCubic(run.model, run.T, p);
         const double v = run.model.work.Roots[0];
@@ -82,7 +82,7 @@ void SubcriticalIsotherm(CurveRun& run, const IsothermOrdinate& ordinate) {
         return;
     const double pLV = saturation.value;
     const std::array<double, 3> found = run.model.work.Roots;
-    WalkClampedGrid(run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
+    WalkClampedGrid(run, run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
         const double p = std::max(x / run.options.pFactor, lowestSubcriticalP);
         const CubicSolution cubic = SolveEosCubic(run.model, run.T, p);
         if (cubic.failed || cubic.rootCount == 0)

@@ -34,7 +34,7 @@ double RowOf(const CurveRun& run, const ResidualState& state) {
 
 void HeatCapacityOverT(CurveRun& run) {
     run.curve.SetZKind(zPressure);
-    WalkGrid(run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
         const double T = x / run.options.TFactor;
         if (!PassesTriplePoint(run, T, run.model.substance.Ttrip, TripRule::StopAnyEquation))
             return false;
@@ -49,7 +49,7 @@ void HeatCapacityOverT(CurveRun& run) {
 
 void JouleThomsonOverT(CurveRun& run) {
     run.curve.SetZKind(zPressure);
-    WalkGrid(run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
         const double T = x / run.options.TFactor;
         if (!PassesTriplePoint(run, T, run.model.substance.Ttrip, TripRule::StopAnyEquation))
             return false;
@@ -68,7 +68,7 @@ void ResidualOverT(CurveRun& run) {
                                                                       : static_cast<double>(run.spec.xMin);
     const bool mayJump = subcritical && run.HasTieLine();
     double TLV = mayJump ? EosSaturationTemperature(run.model, run.p).value : passed;
-    WalkClampedGrid(run.spec.xMax, low, -run.stepX, [&](double x) {
+    WalkClampedGrid(run, run.spec.xMax, low, -run.stepX, [&](double x) {
         double T = x / TFactor;
         if (!PassesTriplePoint(run, T, run.model.substance.Ttrip, TripRule::Stop))
             return false;
@@ -95,7 +95,7 @@ void ResidualOverP(CurveRun& run) {
     const double high = gasOnly ? run.outcome.pSatCurve * pFactor : static_cast<double>(run.spec.xMax);
     const bool mayJump = run.HasLoop() && run.HasTieLine();
     double pLV = mayJump ? EosSaturationPressure(run.model, run.T).value : passed;
-    WalkClampedGrid(high, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkClampedGrid(run, high, run.spec.xMin, -run.stepX, [&](double x) {
         const double p = x / pFactor;
         if (!PassesTriplePoint(run, p, run.model.substance.ptrip, TripRule::Stop))
             return false;

@@ -26,7 +26,7 @@ double PressureInForce(CurveRun& run, double T) {
 // Walks 1/T from the critical point on; `visit` takes x and T.
 template<typename Visit> void WalkInverseT(CurveRun& run, Visit visit) {
     const double TFactor = run.options.TFactor;
-    WalkGrid(1 / (run.model.substance.Tc * TFactor), run.spec.xMax, run.stepX, [&](double x) {
+    WalkIntoWindow(run, 1 / (run.model.substance.Tc * TFactor), run.spec.xMax, run.stepX, [&](double x) {
         const double T = 1 / (TFactor * x);
         if (IsBelowTriplePoint(run, T, run.model.substance.Ttrip))
             return false;
@@ -44,7 +44,7 @@ bool SearchesMaximum(int equation) {
 
 void VapourPressureCurve(CurveRun& run) {
     const double TFactor = run.options.TFactor;
-    WalkGrid(run.model.substance.Tc * TFactor, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkIntoWindow(run, run.model.substance.Tc * TFactor, run.spec.xMin, -run.stepX, [&](double x) {
         const double T = x / TFactor;
         if (IsBelowTriplePoint(run, T, run.model.substance.Ttrip))
             return false;
@@ -94,7 +94,7 @@ void VaporisationCurve(CurveRun& run) {
         request.reference = {point.T, point.rhoL, point.rhoV};
     }
     bool hasPressure = false;
-    WalkGrid(run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
+    WalkGrid(run, run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
         const double T = x / run.options.TFactor;
         if (T > model.substance.Tc)
             return true;

@@ -72,6 +72,17 @@ TEST(CalcBatch, NotANumberCountsAsMissing) {
     EXPECT_EQ(c.At(300, std::nan("")).par2.text, "kein p in diesem Datensatz");
 }
 
+TEST(CalcBatch, InfinityCountsAsMissing) {
+    Calculation c;
+    EXPECT_EQ(c.At(HUGE_VAL, 100).par1.text, "kein T in diesem Datensatz");
+    EXPECT_EQ(c.At(300, HUGE_VAL).par2.text, "kein p in diesem Datensatz");
+    CalculationContext context = c.Context();
+    for (const int kind : {kindTRho, kindTRhoLiquid}) {
+        c.batch.rows[0] = {false, 300, 0, HUGE_VALF, HUGE_VALF, 0, 0};
+        EXPECT_EQ(CalcBatch(context, kind, 0).par2.text, "kein rho in diesem Datensatz") << kind;
+    }
+}
+
 TEST(CalcBatch, HintsAtTemperaturesBelowTheTriplePointAndGoesOn) {
     Calculation c;
     const PointResult r = c.At(130, 100);

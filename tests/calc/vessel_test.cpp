@@ -62,8 +62,9 @@ TEST(FillHeight, FailsWithoutACircle) {
 
 TEST(Vessel, WithoutAnInputNothingIsShown) {
     Reported c;
-    for (const VesselInput& input : {VesselInput{0, 1, 300}, VesselInput{1, 0, 300}, VesselInput{1, 1, 0},
-                                     VesselInput{1e-3F, 1e-3F, 0.5F}}) {
+    for (const VesselInput& input :
+         {VesselInput{0, 1, 300}, VesselInput{1, 0, 300}, VesselInput{1, 1, 0},
+          VesselInput{1e-3F, 1e-3F, 0.5F}, VesselInput{1, 1, HUGE_VALF}, VesselInput{3e38F, 1, 300}}) {
         const PointResult r = c.Vessel(kindVesselGlobal, input.V, input.m, input.T);
         EXPECT_EQ(r.report, "");
         ExpectLabels(r, {"", "", "", ""});

@@ -257,6 +257,24 @@ TEST(Families, TieLinesAreFiftyOneEquallySpacedPoints) {
     }
 }
 
+// The exergy of the saturated liquid has a minimum near the ambient temperature.
+TEST(Families, LiquidLinesOverVolumeAreInTheOrderOfTheirFunction) {
+    ButaneDiagram d;
+    const auto turns = [](const CurvePoints& curve, float CurvePoint::*coordinate) {
+        int falling = 0;
+        for (int i = 2; i <= curve.Count(); ++i)
+            falling += curve[i].*coordinate < curve[i - 1].*coordinate ? 1 : 0;
+        return falling;
+    };
+    const CurvePoints liquid = d.Draw(102, 300, 101.325);
+    ASSERT_GT(liquid.Count(), 100);
+    EXPECT_EQ(turns(liquid, &CurvePoint::y), 0);
+    EXPECT_GT(turns(liquid, &CurvePoint::x), 10);
+    d.mode.vapourFraction = 1;
+    const CurvePoints& vapour = d.Draw(102, 300, 101.325);
+    EXPECT_EQ(turns(vapour, &CurvePoint::x), vapour.Count() - 1); // from cold and wide to the critical point
+}
+
 TEST(Families, TypesWithoutTieLineAndStatesAboveTheCriticalPointRefuseIt) {
     ButaneDiagram d;
     d.mode.tieLineMode = true;

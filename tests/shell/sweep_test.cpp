@@ -5,10 +5,8 @@
 
 #include <cmath>
 
-#include "helpers/dvopar/result_text.h"
-#include "helpers/dvopar/vo_halme_fit.h"
+#include "fit_in_process.h"
 #include "master_database.h"
-#include "text/text_file.h"
 #include "thermo/caloric_state.h"
 #include "thermo/cubic_equation.h"
 #include "thermo/eos_temperature.h"
@@ -117,21 +115,6 @@ void CheckVaporisation(SubstanceModel& model) {
 TEST_F(MasterDatabase, GivesNothingButFiniteVaporisation) {
     ForEveryModel(CheckVaporisation);
 }
-
-// Runs the fit of the helper program within the test, without a process for each substance.
-class FitInProcess : public ProgramRunner {
-public:
-    void Run(const std::filesystem::path&, const std::filesystem::path& folder, int) override {
-        const dvopar::ParsedRequest parsed =
-            dvopar::ParseRequest(ReadFile(folder / "vopar.tmp").value_or(""));
-        if (!parsed.request)
-            return;
-        const dvopar::VoHalmeFit fit = dvopar::FitVoHalme(*parsed.request);
-        if (fit.parameters)
-            WriteFile(folder / dvopar::ResultFileName(parsed.request->row),
-                      dvopar::ResultText(*parsed.request, *fit.parameters));
-    }
-};
 
 struct FittedRow : testing::TestWithParam<EosRow> {
     BuiltMachine machine{testing::TempDir() + "orva_sweep_" + std::to_string(GetParam())};
