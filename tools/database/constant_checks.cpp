@@ -4,6 +4,7 @@
 #include "database/elements.h"
 #include "database/table_layout.h"
 #include "database/value_checks.h"
+#include "state/constants.h"
 #include "substance/record_fields.h"
 #include "substance/substance_loading.h"
 
@@ -11,8 +12,6 @@ namespace orva {
 namespace {
 
 constexpr float missing = 1e-6F;
-constexpr double gasConstant = 8.31451; // kJ/(kmol K)
-constexpr double normalPressure = 101.325;
 constexpr double standardTemperature = 298.15;
 constexpr std::string_view formationFile = "formation.tsv";
 

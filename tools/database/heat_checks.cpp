@@ -5,6 +5,7 @@
 
 #include "database/table_layout.h"
 #include "database/value_checks.h"
+#include "state/constants.h"
 #include "substance/record_fields.h"
 #include "thermo/heat_capacity.h"
 #include "thermo/vaporisation_enthalpy.h"
@@ -18,7 +19,6 @@ constexpr std::string_view sinhCoshFile = "cp_ideal_sinh_cosh.tsv";
 constexpr std::string_view cpLiquidFile = "cp_liquid.tsv";
 constexpr std::string_view cpSolidFile = "cp_solid.tsv";
 constexpr float missing = 1e-6F;
-constexpr double gasConstant = 8.31451; // kJ/(kmol K)
 
 struct CpForm {
     std::string_view file;

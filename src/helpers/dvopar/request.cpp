@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helpers/dvopar/request.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
