@@ -34,7 +34,7 @@ bool HasTemperatureAxis(const DiagramWindow& window) {
 }
 bool HasTieLine(const DiagramWindow& window) {
     const DiagramRow* row = FindDiagram(window.Spec().type);
-    return row != nullptr && (row->tieLine != nullptr || row->type == 3 || row->type == 4);
+    return row != nullptr && row->tieLine != nullptr;
 }
 bool HasSKurve(const DiagramWindow& window) {
     const int type = window.Spec().type;
