@@ -116,6 +116,8 @@ bool DiagramWindow::AddCurve() {
         series.style = LineStyle::Dashed;
     if (spec.type == densityProjection) // its points change from phase to phase, no line joins them
         series.style = LineStyle::PointsOnly;
+    if (spec.curveKind == curveInversion)
+        InterruptAtJumps(series);
     series.legend = LegendText();
     series.label = series.legend;
     series.labelPoint = LabelPoint(curve, spec.xMax, chart.currentSlot);

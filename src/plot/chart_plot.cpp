@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include <qcustomplot.h>
 
@@ -124,12 +125,16 @@ void PrepareLegend(QCustomPlot& plot, QCPLayoutGrid& sheet, const PlotStyle& sty
     plot.legend->setVisible(false);
 }
 
+// A point that is no number interrupts the line.
 QVector<QCPCurveData> PointsOf(const ChartSeries& series) {
     QVector<QCPCurveData> points;
-    points.reserve(series.Count());
-    for (int i = 0; i < series.Count(); ++i)
-        points.append(
-            QCPCurveData(i, series.x[static_cast<std::size_t>(i)], series.y[static_cast<std::size_t>(i)]));
+    points.reserve(series.Count() + static_cast<int>(series.gaps.size()));
+    for (int i = 0; i < series.Count(); ++i) {
+        const double x = series.x[static_cast<std::size_t>(i)];
+        if (std::find(series.gaps.begin(), series.gaps.end(), i + 1) != series.gaps.end())
+            points.append(QCPCurveData(i - 0.5, x, std::nan("")));
+        points.append(QCPCurveData(i, x, series.y[static_cast<std::size_t>(i)]));
+    }
     return points;
 }
 
@@ -213,7 +218,7 @@ void SetAxis(QCPAxis& axis, const std::string& title, bool logarithmic, bool gri
         if (logarithmic)
             axis.setTicker(QSharedPointer<DecadeTicker>::create());
         else
-            axis.setTicker(QSharedPointer<QCPAxisTicker>::create());
+            axis.setTicker(QSharedPointer<RoomyTicker>::create(axis));
     }
     axis.grid()->setVisible(grid);
     axis.grid()->setSubGridVisible(grid && logarithmic);
@@ -271,6 +276,8 @@ void PreparePlot(QCustomPlot& plot, const PlotStyle& style) {
     plot.axisRect()->setupFullAxesBox(false);
     for (QCPAxis* axis : {plot.xAxis, plot.yAxis, plot.xAxis2, plot.yAxis2})
         PrepareAxis(*axis, style);
+    for (QCPAxis* axis : {plot.xAxis, plot.yAxis})
+        axis->setTicker(QSharedPointer<RoomyTicker>::create(*axis));
     for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) {
         axis->setTicks(false);
         axis->setTickLabels(false);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/plot_elements.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace orva {
 
 namespace {
 
+constexpr int fewestTicks = 2, mostTicks = 5;
 constexpr double fewDecades = 2.5;
 constexpr double fewerDecades = 0.6; // of which even 1, 2, 5 would leave too few ticks
 
@@ -44,6 +46,22 @@ QSize HeadingElement::minimumOuterSizeHint() const {
 
 QSize HeadingElement::maximumOuterSizeHint() const {
     return {QWIDGETSIZE_MAX, minimumOuterSizeHint().height()};
+}
+
+double RoomyTicker::getTickStep(const QCPRange& range) {
+    if (axis.orientation() == Qt::Vertical)
+        return QCPAxisTicker::getTickStep(range);
+    constexpr double wholeNumbers = 1000; // from here on; smaller ones have some digits behind the point
+    const double largest = std::max(std::abs(range.lower), std::abs(range.upper));
+    const QString widest = largest >= wholeNumbers
+                               ? QString::number(range.lower < 0 ? -largest : largest, 'f', 0)
+                               : QStringLiteral("0.000");
+    const double room = 2.0 * QFontMetrics(axis.tickLabelFont()).horizontalAdvance(widest);
+    const int laidOut = axis.axisRect()->width();
+    const int width = laidOut > 1 ? laidOut : axis.parentPlot()->viewport().width();
+    setTickCount(width > room ? std::clamp(static_cast<int>(width / room), fewestTicks, mostTicks)
+                              : fewestTicks);
+    return QCPAxisTicker::getTickStep(range);
 }
 
 QVector<double> DecadeTicker::createTickVector(double tickStep, const QCPRange& range) {

@@ -24,6 +24,18 @@ private:
     QString inOneLine, broken;
 };
 
+// Ticks of a linear axis: as many as their numbers leave room for, where they stand side by side.
+class RoomyTicker : public QCPAxisTicker {
+public:
+    explicit RoomyTicker(const QCPAxis& ownAxis) : axis(ownAxis) {}
+
+protected:
+    double getTickStep(const QCPRange& range) override;
+
+private:
+    const QCPAxis& axis;
+};
+
 // Ticks of a logarithmic axis: powers of ten, and 1, 2, 5 where the axis shows few of them.
 class DecadeTicker : public QCPAxisTickerLog {
 protected:

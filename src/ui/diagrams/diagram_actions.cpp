@@ -83,10 +83,8 @@ constexpr char markCalc[] = "mnuMarkCritPointCalc";
 constexpr char markEx[] = "mnuMarkCritPointEx";
 
 constexpr DiagramMenu menus[] = {
-    {"mnuBild", "&Diagramm"},
-    {"mnuAdd", "&Einfügen"},
-    {"mnuDel", "&Löschen"},
-    {"mnuView", "&Ansicht"},
+    {"mnuBild", "&Diagramm"}, {"mnuAdd", "&Einfügen"},     {"mnuDel", "&Löschen"},
+    {"mnuView", "&Ansicht"},  {"mnuGraphHilfe", "&Hilfe"},
 };
 
 using G = frmGraph2D;
@@ -147,6 +145,11 @@ constexpr DiagramAction actions[] = {
      &G::cmdXLog, IsOpen, IsLogX},
     {"cmdYLog", "mnuView", "&y-Achse logarithmisch", "", "y-Achse linear oder logarithmisch teilen", "log y",
      &G::cmdYLog, IsOpen, IsLogY},
+
+    {"cmdGraphHelp", "mnuGraphHilfe", "&Diagrammfenster", "", "Hilfe zum Diagrammfenster", "",
+     &G::cmdGraphHelp, nullptr, nullptr},
+    {"cmdTypeHelp", "mnuGraphHilfe", "Dieser Diagramm&typ", "", "Hilfe zum gezeigten Diagrammtyp", "",
+     &G::cmdTypeHelp, IsOpen, nullptr},
 };
 
 } // namespace
