@@ -12,10 +12,14 @@ namespace {
 
 constexpr double cellSize = 6;
 constexpr int mostCandidates = 60;
-constexpr double leastStep = 4;            // between candidates
-constexpr double gap = 2;                  // free space around a label
-constexpr int besideCost = 1;              // in curves crossed: a label beside its curve
-constexpr int hidingCost = 2;              // and one that hides most of it
+constexpr double leastStep = 4; // between candidates
+constexpr double gap = 2;       // free space around a label
+// What makes a place worse.
+constexpr int coverCost = 2; // for each other curve under the label
+constexpr int besideCost =
+    1; // for a label beside its curve, and for each other curve that it might belong to
+constexpr int hidingCost = 4;              // for a label that hides most of its curve
+constexpr double nearBeside = 10;          // around a label beside its curve: what it might belong to
 constexpr double mostHidden = 0.4;         // of a curve
 constexpr double preferredFraction = 0.6;  // of the visible length, where the preferred point is not visible
 constexpr std::size_t distinctCurves = 64; // curves beyond share the marks of others
@@ -154,6 +158,19 @@ LabelLayout::Contents LabelLayout::ContentsOf(const SheetBox& box, CurveMask own
     return contents;
 }
 
+int LabelLayout::CostOf(const SheetBox& box, bool beside, CurveMask own, std::ptrdiff_t ownCells) const {
+    const Contents under = ContentsOf(box, own);
+    int cost = coverCost * under.otherCurves;
+    if (under.ownCells > mostHidden * static_cast<double>(ownCells))
+        cost += hidingCost;
+    if (beside) {
+        const SheetBox around{box.left - nearBeside, box.top - nearBeside, box.right + nearBeside,
+                              box.bottom + nearBeside};
+        cost += besideCost * (1 + ContentsOf(around, own).otherCurves);
+    }
+    return cost;
+}
+
 bool LabelLayout::IsTaken(const SheetBox& box) const {
     const SheetBox wide{box.left - gap, box.top - gap, box.right + gap, box.bottom + gap};
     return std::any_of(taken.begin(), taken.end(), [&](const SheetBox& other) { return wide.Meets(other); });
@@ -204,10 +221,7 @@ std::optional<SheetPoint> LabelLayout::Search(std::span<const Candidate> candida
                 BoxAround({candidate.at.x + offset.x, candidate.at.y + offset.y}, width, height, frame);
             if (IsTaken(box))
                 continue;
-            const Contents contents = ContentsOf(box, own);
-            const bool hides = contents.ownCells > mostHidden * static_cast<double>(ownCells);
-            const bool beside = offset.x != 0 || offset.y != 0;
-            const int cost = contents.otherCurves + (hides ? hidingCost : 0) + (beside ? besideCost : 0);
+            const int cost = CostOf(box, offset.x != 0 || offset.y != 0, own, ownCells);
             if (best && (cost > lowest || (cost == lowest && candidate.distance >= nearest)))
                 continue;
             best = SheetPoint{(box.left + box.right) / 2, (box.top + box.bottom) / 2};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -64,6 +65,7 @@ private:
     void MarkCells(std::span<const LabelledCurve> curves);
     void MarkCell(SheetPoint at, CurveMask curve);
     Contents ContentsOf(const SheetBox& box, CurveMask own) const;
+    int CostOf(const SheetBox& box, bool beside, CurveMask own, std::ptrdiff_t ownCells) const;
     bool IsTaken(const SheetBox& box) const;
     std::vector<Candidate> CandidatesOf(const LabelledCurve& curve) const;
     std::vector<Candidate> PointsOf(const LabelledCurve& curve) const;
