@@ -4,6 +4,7 @@
 
 #include "ui/dark_palette.h"
 #include "ui/diagram_pictures_fixture.h"
+#include "ui/shell/help_window.h"
 
 namespace orva::test {
 namespace {
@@ -137,6 +138,21 @@ TEST_P(SectionPictures, VapourPressureAndEnthalpyOfVaporisation) {
     dialogs.shown.clear();
     ExpectWholeCurves();
     Shoot("011-dln-p");
+}
+
+// The commands of the window lead to its page and to that of the type.
+TEST_P(SectionPictures, HelpKnowsTheWindowAndTheType) {
+    std::filesystem::create_directory_symlink(std::filesystem::path(ORVA_DATABASE_DIR) / "help",
+                                              machine.InstallationFolder() / "help");
+    Open({"mnuGraf(9)", "mnuGraf_sub_proj(1)", "v / (m³/kmol)", "p / kPa"});
+    Click(In<QToolButton>(graph, "cmdGraphHelp"));
+    auto* help = Wait<HelpWindow>();
+    ASSERT_NE(help, nullptr);
+    EXPECT_EQ(In<HelpBrowser>(help, "helpPage")->PageName(), "diagram-window.html");
+    graph->findChild<QAction*>("cmdTypeHelp")->trigger();
+    EXPECT_EQ(In<HelpBrowser>(help, "helpPage")->PageName(), "diagrams.html");
+    EXPECT_EQ(In<HelpBrowser>(help, "helpPage")->Anchor(), "projections");
+    help->close();
 }
 
 // The sheet stays white on a dark desktop, the window around it does not.

@@ -83,8 +83,8 @@ constexpr char markCalc[] = "mnuMarkCritPointCalc";
 constexpr char markEx[] = "mnuMarkCritPointEx";
 
 constexpr DiagramMenu menus[] = {
-    {"mnuBild", "&Diagramm"}, {"mnuAdd", "&Einfügen"},     {"mnuDel", "&Löschen"},
-    {"mnuView", "&Ansicht"},  {"mnuGraphHilfe", "&Hilfe"},
+    {"mnuBild", "&Diagramm"}, {"mnuAdd", "&Einfügen"}, {"mnuDel", "&Löschen"},
+    {"mnuView", "&Ansicht"},  {"mnuPages", "&Hilfe"},
 };
 
 using G = frmGraph2D;
@@ -146,9 +146,9 @@ constexpr DiagramAction actions[] = {
     {"cmdYLog", "mnuView", "&y-Achse logarithmisch", "", "y-Achse linear oder logarithmisch teilen", "log y",
      &G::cmdYLog, IsOpen, IsLogY},
 
-    {"cmdGraphHelp", "mnuGraphHilfe", "&Diagrammfenster", "", "Hilfe zum Diagrammfenster", "",
-     &G::cmdGraphHelp, nullptr, nullptr},
-    {"cmdTypeHelp", "mnuGraphHilfe", "Dieser Diagramm&typ", "", "Hilfe zum gezeigten Diagrammtyp", "",
+    {"cmdGraphHelp", "mnuPages", "&Diagrammfenster", "", "Hilfe zum Diagrammfenster", "", &G::cmdGraphHelp,
+     nullptr, nullptr},
+    {"cmdTypeHelp", "mnuPages", "Dieser Diagramm&typ", "", "Hilfe zum gezeigten Diagrammtyp", "",
      &G::cmdTypeHelp, IsOpen, nullptr},
 };
 
