@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Diagrams of the caloric functions, of residual functions and of the functions of the database, as a lecture
 // shows them.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "diagrams/database_curves.h"
@@ -39,6 +41,21 @@ struct FunctionPictures : DiagramPictures {
             Add("mnuMarkSKurve", {sCurve});
         ExpectWholeCurves();
         Shoot(row.name);
+    }
+    // The window reaches from limit to limit of the function, and from its lowest to its highest value.
+    void ExpectFilledWindow(int type) const {
+        const DatabaseRange range = DatabaseRangeOf(type, Model());
+        std::vector<double> values(2);
+        ASSERT_TRUE(DatabaseValue(type, Model(), session->options, range.low, values[0]));
+        ASSERT_TRUE(DatabaseValue(type, Model(), session->options, range.high, values[1]));
+        for (const QCPCurveData& point : *qobject_cast<QCPCurve*>(graph->Plot().plottable(0))->data())
+            values.push_back(point.value);
+        const auto [low, high] = std::minmax_element(values.begin(), values.end());
+        const bool constant = *high - *low < 1e-6 * *high;
+        const double nearly = constant ? 2e-3 * *high : 0.01 * (*high - *low);
+        EXPECT_EQ(graph->Plot().xAxis->range(), QCPRange(range.low, range.high)) << type;
+        EXPECT_NEAR(graph->Plot().yAxis->range().lower, *low, nearly) << type;
+        EXPECT_NEAR(graph->Plot().yAxis->range().upper, *high, nearly) << type;
     }
     void TakeIsobars(std::initializer_list<FunctionCase> rows) {
         for (const FunctionCase& row : rows) {
@@ -179,6 +196,7 @@ TEST_P(FunctionPictures, OfTheDatabase) {
         Open(diagram);
         Expect({});
         ExpectWholeCurves();
+        ExpectFilledWindow(type);
         Shoot(std::to_string(type).c_str());
         ++drawn;
     }
