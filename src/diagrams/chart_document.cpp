@@ -71,6 +71,18 @@ void StorePoints(const CurvePoints& curve, ChartSeries& series) {
     }
 }
 
+void InterruptAtJumps(ChartSeries& series) {
+    constexpr double jump = 1.5; // from a point to the next, as the ratio of both temperatures
+    if (series.ZKind() != zTemperature)
+        return;
+    for (int i = 2; i <= series.Count(); ++i) {
+        const std::optional<float> before = series.Z(i - 1);
+        const std::optional<float> here = series.Z(i);
+        if (before && here && (*here > jump * *before || *before > jump * *here))
+            series.gaps.push_back(i);
+    }
+}
+
 ChartColour SlotColour(int slot) {
     return palette[(std::max(slot, 1) - 1) % paletteSize];
 }

@@ -32,9 +32,10 @@ struct ChartSeries {
     ChartColour colour;
     double width = 2; // of the line, in points of the screen
     bool visible = true;
-    std::string legend; // "(1) 300.0 K "; empty: no entry in the legend
-    std::string label;  // text attached to the curve
-    int labelPoint = 0; // number of the point that carries it, from 1
+    std::string legend;    // "(1) 300.0 K "; empty: no entry in the legend
+    std::string label;     // text attached to the curve
+    int labelPoint = 0;    // number of the point that carries it, from 1
+    std::vector<int> gaps; // numbers of the points, from 1, that no line joins to the point before
 
     int Count() const { return static_cast<int>(x.size()); }
     int ZKind() const { return z.empty() ? 0 : static_cast<int>(z[0]); }
@@ -87,6 +88,9 @@ struct ChartDocument {
 
 // Writes the points into the series: x and y of all, z of the first 1200.
 void StorePoints(const CurvePoints& curve, ChartSeries& series);
+
+// Interrupts the line where the temperature in z jumps: from one branch of the curve to another.
+void InterruptAtJumps(ChartSeries& series);
 
 // Colour and line style of a slot: eight colours that colour-blind eyes tell apart, in three line styles.
 ChartColour SlotColour(int slot);

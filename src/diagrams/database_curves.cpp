@@ -18,7 +18,7 @@ namespace {
 
 constexpr double pointRange = 10; // K around the single point of a density
 constexpr int windowSamples = 50;
-constexpr double windowRoom = 0.05; // of the span of the values, above and below
+constexpr double windowRoom = 1e-3; // of a value that does not change, above and below
 
 DatabaseRange RangeOf(double low, double high) {
     return {static_cast<float>(low), static_cast<float>(high)};
@@ -160,7 +160,7 @@ void SetDatabaseWindow(const SubstanceModel& model, const Options& options, Diag
     }
     if (!any)
         return;
-    const double room = std::max(windowRoom * (high - low), 1e-3 * std::abs(high));
+    const double room = high > low ? 0 : windowRoom * std::abs(high);
     spec.xMin = range.low * options.TFactor;
     spec.xMax = range.high * options.TFactor;
     spec.yMin = static_cast<float>(low - room);

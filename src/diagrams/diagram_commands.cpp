@@ -55,9 +55,11 @@ bool DiagramWindow::DrawAs(int type, int curveKind) {
     const std::int16_t ownKind = spec.curveKind;
     spec.type = static_cast<std::int16_t>(type);
     spec.curveKind = static_cast<std::int16_t>(curveKind);
-    const bool drawn = cmdDraw();
+    const bool drawn = AddCurve();
     spec.type = ownType;
     spec.curveKind = ownKind;
+    if (drawn)
+        Notify();
     return drawn;
 }
 

@@ -92,6 +92,14 @@ bool DiagramWindow::Open(const DiagramRow* row) {
 }
 
 bool DiagramWindow::cmdDraw() {
+    const bool drawn = AddCurve();
+    if (drawn)
+        Notify();
+    return drawn;
+}
+
+// Without telling anybody, so that a command may set things back before.
+bool DiagramWindow::AddCurve() {
     curve.Clear();
     outcome = {};
     const CurveRequest& request = records.request;
@@ -108,12 +116,13 @@ bool DiagramWindow::cmdDraw() {
         series.style = LineStyle::Dashed;
     if (spec.type == densityProjection) // its points change from phase to phase, no line joins them
         series.style = LineStyle::PointsOnly;
+    if (spec.curveKind == curveInversion)
+        InterruptAtJumps(series);
     series.legend = LegendText();
     series.label = series.legend;
     series.labelPoint = LabelPoint(curve, spec.xMax, chart.currentSlot);
     if (!outcome.resultText.empty())
         chart.headingLines[1] = " Diagrammtyp:  " + spec.typeTitle + outcome.resultText;
-    Notify();
     return true;
 }
 

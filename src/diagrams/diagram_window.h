@@ -72,6 +72,7 @@ public:
     std::function<void(Change)> changed;
 
 private:
+    bool AddCurve();
     bool WordStatus();
     bool AddCurveSlot();
     std::string LegendText() const;

@@ -2,8 +2,13 @@
 #include "plot/chart_plot.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 #include <qcustomplot.h>
+
+#include "plot/curve_labels.h"
+#include "plot/plot_elements.h"
 
 namespace orva {
 
@@ -12,8 +17,6 @@ namespace {
 constexpr double logDecades = 1e-3;       // of the upper limit: where an empty logarithmic axis begins
 constexpr double logMargin = 0.8;         // of the smallest value, for a logarithmic axis with curves
 constexpr double nearlyZero = 1e-3;       // of the upper limit: an axis that begins here is drawn from 0
-constexpr double nearRightEnd = 0.88;     // of the width: labels beyond stand left of their point
-constexpr double nearLeftEnd = 0.08;      // and labels before, right of it
 constexpr int mostFullLabels = 12;        // with more curves the labels hold their number only
 const QColor inkColour(0x22, 0x22, 0x22); // text and frame
 const QColor gridColour(0xE2, 0xE5, 0xE9);
@@ -79,32 +82,38 @@ void PrepareAxis(QCPAxis& axis, const PlotStyle& style) {
     axis.grid()->setZeroLinePen(Qt::NoPen);
 }
 
-// Two lines above the frame: the substance, and below it the type of the diagram with the model.
-void PrepareHeading(QCustomPlot& plot, const PlotStyle& style) {
-    auto* heading = new QCPTextElement(&plot, QString(), FontOf(style, 1.45, true));
+// Two lines across the sheet: the substance, and below it the type of the diagram with the model. Returns the
+// part of the layout below them.
+QCPLayoutGrid& PrepareHeading(QCustomPlot& plot, const PlotStyle& style) {
+    auto* heading = new HeadingElement(&plot, QString(), FontOf(style, 1.45, true));
     heading->setObjectName(headingName);
     heading->setTextColor(inkColour);
     heading->setMargins(QMargins(0, 8, 0, 0));
-    auto* subHeading = new QCPTextElement(&plot, QString(), FontOf(style, 1.05));
+    auto* subHeading = new HeadingElement(&plot, QString(), FontOf(style, 1.05));
     subHeading->setObjectName(subHeadingName);
     subHeading->setTextColor(QColor(0x55, 0x55, 0x55));
     subHeading->setMargins(QMargins(0, 0, 0, 6));
-    plot.plotLayout()->insertRow(0);
-    plot.plotLayout()->insertRow(0);
+    QCPAxisRect* frame = plot.axisRect();
+    plot.plotLayout()->take(frame);
+    plot.plotLayout()->simplify();
+    auto* sheet = new QCPLayoutGrid;
     plot.plotLayout()->addElement(0, 0, heading);
     plot.plotLayout()->addElement(1, 0, subHeading);
+    plot.plotLayout()->addElement(2, 0, sheet);
     plot.plotLayout()->setRowSpacing(0);
+    sheet->addElement(0, 0, frame);
+    return *sheet;
 }
 
 // The legend has a column of its own beside the frame, so that it hides no curve.
-void PrepareLegend(QCustomPlot& plot, const PlotStyle& style) {
+void PrepareLegend(QCustomPlot& plot, QCPLayoutGrid& sheet, const PlotStyle& style) {
     auto* column = new QCPLayoutGrid;
-    plot.plotLayout()->addElement(2, 1, column);
+    sheet.addElement(0, 1, column);
     column->addElement(0, 0, plot.legend);
     auto* rest = new QCPLayoutElement(&plot); // takes the height that the entries leave
     column->addElement(1, 0, rest);
     column->setRowStretchFactor(0, 0.001);
-    plot.plotLayout()->setColumnStretchFactor(1, 0.001);
+    sheet.setColumnStretchFactor(1, 0.001);
     plot.legend->setFont(FontOf(style));
     plot.legend->setTextColor(inkColour);
     plot.legend->setBorderPen(QPen(gridColour, 1));
@@ -120,16 +129,20 @@ void ShowLegend(QCustomPlot& plot, bool shown) {
     plot.legend->layout()->setMargins(shown ? QMargins(4, 0, 12, 0) : QMargins());
 }
 
+// A point that is no number interrupts the line.
 QVector<QCPCurveData> PointsOf(const ChartSeries& series) {
     QVector<QCPCurveData> points;
-    points.reserve(series.Count());
-    for (int i = 0; i < series.Count(); ++i)
-        points.append(
-            QCPCurveData(i, series.x[static_cast<std::size_t>(i)], series.y[static_cast<std::size_t>(i)]));
+    points.reserve(series.Count() + static_cast<int>(series.gaps.size()));
+    for (int i = 0; i < series.Count(); ++i) {
+        const double x = series.x[static_cast<std::size_t>(i)];
+        if (std::find(series.gaps.begin(), series.gaps.end(), i + 1) != series.gaps.end())
+            points.append(QCPCurveData(i - 0.5, x, std::nan("")));
+        points.append(QCPCurveData(i, x, series.y[static_cast<std::size_t>(i)]));
+    }
     return points;
 }
 
-void AddCurve(QCustomPlot& plot, const ChartSeries& series, const PlotStyle& style) {
+QCPCurve& AddCurve(QCustomPlot& plot, const ChartSeries& series, const PlotStyle& style) {
     auto* curve = new QCPCurve(plot.xAxis, plot.yAxis);
     curve->setPen(PenOf(series, style));
     if (series.style == LineStyle::PointsOnly) {
@@ -141,33 +154,16 @@ void AddCurve(QCustomPlot& plot, const ChartSeries& series, const PlotStyle& sty
     if (series.legend.empty() || !series.visible)
         curve->removeFromLegend();
     curve->setVisible(series.visible);
+    return *curve;
 }
 
-// Which side of its text the labelled point is on, so that the text stays inside the frame.
-Qt::Alignment LabelSide(double fraction) {
-    if (fraction < nearLeftEnd)
-        return Qt::AlignLeft;
-    return fraction > nearRightEnd ? Qt::AlignRight : Qt::AlignHCenter;
-}
-
-// The text stands on white, so that the line behind does not cross it.
-void AddLabel(QCustomPlot& plot, const ChartDocument& chart, const ChartSeries& series,
+void AddLabel(const QCPCurve& curve, const ChartDocument& chart, const ChartSeries& series,
               const PlotStyle& style) {
     if (series.label.empty() || series.labelPoint < 1 || series.labelPoint > series.Count())
         return;
-    const auto i = static_cast<std::size_t>(series.labelPoint) - 1;
-    auto* label = new QCPItemText(&plot);
-    const double fraction = (series.x[i] - chart.view.xMin) / (chart.view.xMax - chart.view.xMin);
-    label->setPositionAlignment(LabelSide(fraction) | Qt::AlignVCenter);
-    label->position->setType(QCPItemPosition::ptPlotCoords);
-    label->position->setCoords(series.x[i], series.y[i]);
     const QString text = Text(series.label).trimmed();
-    label->setText(chart.curveCount > mostFullLabels ? text.section(' ', 0, 0) : text);
-    label->setFont(FontOf(style, 0.9, true));
-    label->setColor(ColourOf(series.colour));
-    label->setBrush(QColor(255, 255, 255, 225));
-    label->setPadding(QMargins(3, 0, 3, 0));
-    label->setClipToAxisRect(true);
+    AddCurveLabel(curve, chart.curveCount > mostFullLabels ? text.section(' ', 0, 0) : text,
+                  series.labelPoint, FontOf(style, 0.9, true), ColourOf(series.colour));
 }
 
 void AddMarkText(QCustomPlot& plot, const ChartMark& mark, double x, double y, Qt::Alignment alignment,
@@ -224,34 +220,22 @@ void SetAxis(QCPAxis& axis, const std::string& title, bool logarithmic, bool gri
     if (axis.scaleType() != scale) {
         axis.setScaleType(scale);
         if (logarithmic)
-            axis.setTicker(QSharedPointer<QCPAxisTickerLog>::create());
+            axis.setTicker(QSharedPointer<DecadeTicker>::create());
         else
-            axis.setTicker(QSharedPointer<QCPAxisTicker>::create());
+            axis.setTicker(QSharedPointer<RoomyTicker>::create(axis));
     }
     axis.grid()->setVisible(grid);
     axis.grid()->setSubGridVisible(grid && logarithmic);
-}
-
-// In one line where the sheet has room for it, else the last part below.
-QString SubHeading(const QStringList& parts) {
-    constexpr qsizetype longestLine = 100;
-    QString text = parts.join(QString()).trimmed();
-    if (text.size() <= longestLine || parts.size() < 2)
-        return text;
-    QString last = parts.last();
-    while (last.startsWith(',') || last.startsWith(' '))
-        last.remove(0, 1);
-    return parts.mid(0, parts.size() - 1).join(QString()).trimmed() + '\n' + last.trimmed();
 }
 
 void SetHeading(QCustomPlot& plot, const ChartDocument& chart) {
     QStringList lines;
     for (const std::string& line : chart.headingLines)
         lines.append(Text(line));
-    if (auto* heading = plot.findChild<QCPTextElement*>(headingName))
-        heading->setText(lines.isEmpty() ? QString() : lines.first().trimmed());
-    if (auto* subHeading = plot.findChild<QCPTextElement*>(subHeadingName))
-        subHeading->setText(SubHeading(lines.mid(1)));
+    if (auto* heading = static_cast<HeadingElement*>(plot.findChild<QCPTextElement*>(headingName)))
+        heading->SetParts(lines.mid(0, 1));
+    if (auto* subHeading = static_cast<HeadingElement*>(plot.findChild<QCPTextElement*>(subHeadingName)))
+        subHeading->SetParts(lines.mid(1));
 }
 
 // The smallest positive value of a coordinate among the points in view; 0 if there is none.
@@ -296,14 +280,16 @@ void PreparePlot(QCustomPlot& plot, const PlotStyle& style) {
     plot.axisRect()->setupFullAxesBox(false);
     for (QCPAxis* axis : {plot.xAxis, plot.yAxis, plot.xAxis2, plot.yAxis2})
         PrepareAxis(*axis, style);
+    for (QCPAxis* axis : {plot.xAxis, plot.yAxis})
+        axis->setTicker(QSharedPointer<RoomyTicker>::create(*axis));
     for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) {
         axis->setTicks(false);
         axis->setTickLabels(false);
     }
     plot.axisRect()->setMinimumMargins(QMargins(12, 6, 20, 10));
-    PrepareHeading(plot, style);
-    PrepareLegend(plot, style);
+    PrepareLegend(plot, PrepareHeading(plot, style), style);
     ShowLegend(plot, false);
+    QObject::connect(&plot, &QCustomPlot::afterLayout, &plot, [&plot] { PlaceCurveLabels(plot); });
 }
 
 void ShowView(QCustomPlot& plot, const ChartDocument& chart) {
@@ -318,14 +304,15 @@ void ShowChart(QCustomPlot& plot, const ChartDocument& chart, const PlotStyle& s
     SetAxis(*plot.xAxis, chart.xTitle, chart.logX, chart.showGrid);
     SetAxis(*plot.yAxis, chart.yTitle, chart.logY, chart.showGrid);
     ShowView(plot, chart);
+    std::array<const QCPCurve*, largestCurveCount + 1> curves{};
     for (int slot = 1; slot <= largestCurveCount; ++slot)
         if (chart.IsTaken(slot))
-            AddCurve(plot, chart.Series(slot), style);
+            curves[static_cast<std::size_t>(slot)] = &AddCurve(plot, chart.Series(slot), style);
     for (const ChartMark& mark : chart.marks)
         AddMark(plot, mark, style);
     for (int slot = 1; slot <= largestCurveCount; ++slot)
         if (chart.showLabels && chart.IsTaken(slot) && chart.Series(slot).visible)
-            AddLabel(plot, chart, chart.Series(slot), style);
+            AddLabel(*curves[static_cast<std::size_t>(slot)], chart, chart.Series(slot), style);
     ShowLegend(plot, chart.showLegend && plot.legend->itemCount() > 0);
 }
 

@@ -141,7 +141,7 @@ constexpr HelpTopic topics[] = {
     {804, Diagrams, "diagrams.html", "pairs", "Mollier-Diagramm und Exergie", "Mollier diagram and exergy", "mnuGraf(6) mnuGraf(7) mnuGraf(8) mnuGraf_sub_HS mnuGraf_sub_ES mnuGraf_sub_EH"},
     {805, Diagrams, "diagrams.html", "projections", "Projektionen", "Projections", "mnuGraf(9) mnuGraf_sub_proj"},
     {806, Diagrams, "diagrams.html", "database", "Diagramme der Datenbankfunktionen", "Diagrams of the database functions", "mnuGraf(10) mnuGraf_sub_database mnuGraf_sub_sub_database"},
-    {810, Diagrams, "diagram-window.html", "", "Das Diagrammfenster", "The diagram window", "frmGraph2D"},
+    {810, Diagrams, "diagram-window.html", "", "Das Diagrammfenster", "The diagram window", "frmGraph2D cmdGraphHelp cmdTypeHelp"},
     {811, Diagrams, "diagram-window.html", "mouse", "Maus und Lupe", "Mouse and magnifier", "chart"},
     {812, Diagrams, "diagram-window.html", "coordinates", "Koordinatenfenster", "Coordinate window", "frmCoord"},
     {813, Diagrams, "diagram-window.html", "output", "Speichern, Kopieren, Drucken", "Saving, copying, printing", ""},

@@ -92,6 +92,22 @@ TEST(ChartDocument, PointsBeyondTwelveHundredAreDrawnButKeepNoZ) {
     EXPECT_FALSE(series.Z(0).has_value());
 }
 
+TEST(ChartDocument, LineIsInterruptedWhereTheTemperatureJumps) {
+    CurvePoints curve;
+    curve.SetZKind(zTemperature);
+    for (const float T : {1600.0F, 1500.0F, 400.0F, 390.0F, 600.0F})
+        curve.Add({T, T, T});
+    ChartSeries series;
+    StorePoints(curve, series);
+    InterruptAtJumps(series);
+    EXPECT_EQ(series.gaps, (std::vector{3, 5}));
+    curve.SetZKind(zVolume);
+    series = {};
+    StorePoints(curve, series);
+    InterruptAtJumps(series);
+    EXPECT_TRUE(series.gaps.empty());
+}
+
 TEST(ChartDocument, LabelsMoveLeftWithTheSlot) {
     const CurvePoints curve = Straight(300);
     EXPECT_EQ(LabelPoint(curve, 1000, 1), 241); // 300 / 1.2 - 9

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plot/chart_plot.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 #include <qcustomplot.h>
 
+#include "diagrams/butane_diagram.h"
 #include "diagrams/diagram_fixture.h"
 #include "diagrams/diagram_window.h"
 
@@ -155,6 +158,96 @@ TEST(ChartPlot, LogarithmicAxisBeginsBelowTheSmallestValueInView) {
     sheet.window.cmdXLog();
     sheet.Show();
     EXPECT_EQ(sheet.plot.xAxis->scaleType(), QCPAxis::stLinear);
+}
+
+TEST(ChartPlot, ShortLogarithmicAxisCountsOneTwoFive) {
+    Sheet sheet({250});
+    sheet.window.cmdXLog();
+    sheet.window.SetView({0.08, 0.7, 0, 7000});
+    sheet.Show();
+    const QVector<QString> labels = sheet.plot.xAxis->tickVectorLabels();
+    for (const char* label : {"0.1", "0.2", "0.5"})
+        EXPECT_TRUE(labels.contains(label)) << label;
+    EXPECT_FALSE(labels.contains("0.3"));
+}
+
+TEST(ChartPlot, NarrowAxisHasFewNumbers) {
+    Sheet sheet({250});
+    sheet.window.SetView({0, 35302, 0, 7000});
+    for (const int width : {420, 600, 1000}) {
+        sheet.plot.setViewport({0, 0, width, 500});
+        sheet.Show();
+        sheet.Show(); // the ticks follow the width that the layout gave
+        const QFontMetrics metrics(sheet.plot.xAxis->tickLabelFont());
+        const QVector<double> ticks = sheet.plot.xAxis->tickVector();
+        ASSERT_GE(ticks.size(), 2);
+        const double step =
+            sheet.plot.xAxis->coordToPixel(ticks[1]) - sheet.plot.xAxis->coordToPixel(ticks[0]);
+        EXPECT_GT(step, 1.2 * metrics.horizontalAdvance("35000")) << width;
+    }
+}
+
+TEST(ChartPlot, LongHeadingIsBrokenNotCut) {
+    Sheet sheet({});
+    sheet.window.Open(FindDiagram(19));
+    sheet.plot.setViewport({0, 0, 1200, 600});
+    sheet.Show();
+    auto* subHeading = sheet.plot.findChild<QCPTextElement*>("subHeading");
+    EXPECT_FALSE(subHeading->text().contains('\n'));
+    const int low = subHeading->outerRect().height();
+    sheet.plot.setViewport({0, 0, 500, 600});
+    sheet.Show();
+    EXPECT_TRUE(subHeading->text().endsWith("\nCEOS Peng / Robinson")) << subHeading->text().toStdString();
+    EXPECT_GE(subHeading->outerRect().height(), 2 * low - 8);
+    EXPECT_LE(subHeading->outerRect().width(), 500);
+}
+
+TEST(ChartPlot, BranchesOfTheInversionCurveAreNotJoined) {
+    test::ButaneDiagram d;
+    DiagramWindow window(d.Records(), d.dialogs);
+    window.Open(FindDiagram(2));
+    ASSERT_TRUE(window.mnuMarkInversion());
+    QCustomPlot plot;
+    PreparePlot(plot, {});
+    ShowChart(plot, window.Chart(), {});
+    const ChartSeries& series = window.Chart().Series(1);
+    ASSERT_FALSE(series.gaps.empty());
+    const auto data = qobject_cast<QCPCurve*>(plot.plottable(0))->data();
+    EXPECT_EQ(data->size(), series.Count() + static_cast<int>(series.gaps.size()));
+    int interrupted = 0;
+    for (const QCPCurveData& point : *data)
+        interrupted += std::isnan(point.value) ? 1 : 0;
+    EXPECT_EQ(interrupted, static_cast<int>(series.gaps.size()));
+}
+
+// The boxes of all texts that can be seen.
+std::vector<QRectF> Boxes(QCustomPlot& plot) {
+    std::vector<QRectF> boxes;
+    for (int i = 0; i < plot.itemCount(); ++i)
+        if (const auto* text = qobject_cast<QCPItemText*>(plot.item(i)); text != nullptr && text->visible()) {
+            const QRectF box(text->topLeft->pixelPosition(), text->bottomRight->pixelPosition());
+            if (box.intersects(plot.axisRect()->rect()))
+                boxes.push_back(box);
+        }
+    return boxes;
+}
+
+TEST(ChartPlot, LabelsMeetNeitherEachOtherNorTheFrameAlsoAfterZooming) {
+    Sheet sheet({150, 160, 170, 180, 185, 190, 191, 192, 200, 250});
+    sheet.window.mnuMarkCritPointCalc();
+    sheet.Show();
+    for (const ChartWindow& view : {sheet.window.Chart().window, ChartWindow{0.04, 0.2, 2000, 5000},
+                                    ChartWindow{0.3, 0.6, 500, 6000}}) {
+        sheet.window.SetView(view);
+        sheet.Show();
+        const std::vector<QRectF> boxes = Boxes(sheet.plot);
+        EXPECT_GE(boxes.size(), 5U);
+        for (std::size_t i = 0; i < boxes.size(); ++i) {
+            EXPECT_TRUE(QRectF(sheet.plot.axisRect()->rect()).contains(boxes[i])) << i;
+            for (std::size_t k = i + 1; k < boxes.size(); ++k)
+                EXPECT_FALSE(boxes[i].intersects(boxes[k])) << i << " " << k;
+        }
+    }
 }
 
 TEST(ChartPlot, MarksAreLinesAndPoints) {

@@ -83,6 +83,21 @@ TEST(GraphWindow, DrawButtonAddsCurves) {
     EXPECT_EQ(g.Plot().plottable(1)->name(), "(2) 250.0 K");
 }
 
+TEST(GraphWindow, AsksForHelpOnItselfAndOnItsType) {
+    Graph g;
+    QSignalSpy wanted(g.view.get(), &frmGraph2D::HelpWanted);
+    auto* button = g.view->findChild<QToolButton*>("cmdGraphHelp");
+    ASSERT_NE(button, nullptr);
+    ASSERT_TRUE(button->isVisible());
+    QTest::mouseClick(button, Qt::LeftButton);
+    g.Action("cmdGraphHelp")->trigger();
+    g.Action("cmdTypeHelp")->trigger();
+    ASSERT_EQ(wanted.size(), 3);
+    EXPECT_EQ(wanted[0][0].toString(), "cmdGraphHelp");
+    EXPECT_EQ(wanted[1][0].toString(), "cmdGraphHelp");
+    EXPECT_EQ(wanted[2][0].toString(), "mnuGraf_sub_cut(1)");
+}
+
 TEST(GraphWindow, OnlyCommandsThatWorkAreEnabled) {
     Graph g;
     EXPECT_FALSE(g.Action("cmdClipboard")->isEnabled());

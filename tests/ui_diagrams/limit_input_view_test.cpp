@@ -75,6 +75,12 @@ TEST(GraphCommands, FollowTheTypeOfTheDiagram) {
     EXPECT_FALSE(enabled("mnuMarkT"));
     view.findChild<QAction*>("mnuMarkKoex")->trigger();
     EXPECT_EQ(window.Chart().curveCount, 2);
+    EXPECT_TRUE(enabled("mnuMarkKonnode")); // the type of the coexistence curve does not stay behind
+    EXPECT_TRUE(enabled("mnuMarkSKurve"));
+    for (const int isobar : {3, 4}) { // they have no tie line of their own
+        window.Open(FindDiagram(isobar));
+        EXPECT_FALSE(enabled("mnuMarkKonnode")) << isobar;
+    }
     window.Open(FindDiagram(8));
     EXPECT_TRUE(enabled("mnuMarkHalbierende"));
     EXPECT_TRUE(enabled("mnuMarkT"));

@@ -72,6 +72,7 @@ public:
         TakeSettings();
         TakePoint();
         TakeDiagram();
+        TakeFamilies();
         TakeEquilibrium();
         TakeFunctions();
         TakeVessel();
@@ -325,6 +326,71 @@ private:
         Trigger(graph, "mnuMarkSKurve");
         Trigger(graph, "mnuMarkKonnode");
         Save(chart, "equal-areas");
+        graph->close();
+    }
+
+    // A diagram with a curve for each value, where the type asks for one.
+    QWidget* DrawDiagram(const char* command, int index, std::initializer_list<const char*> values) {
+        window.RunCommand(FindCommand(command, index));
+        QWidget* graph = Form("frmGraph2D");
+        graph->resize(760, 560);
+        if (values.size() > 0) {
+            QWidget* box = Form("frmTpVSInputBox");
+            for (const char* value : values)
+                Draw(box, value, "cmdOKAndDraw");
+            box->close();
+        }
+        return graph;
+    }
+
+    void SaveChart(QWidget* graph, const char* name) {
+        if (auto* chart = graph->findChild<QWidget*>(QStringLiteral("chart")))
+            Save(chart, name);
+        else
+            Fail("chart", "is not there");
+    }
+
+    void SetWindow(QWidget* graph, const char* xMin, const char* xMax, const char* yMin, const char* yMax) {
+        SetLimits(graph, [=, this](QWidget* limits) {
+            Type(limits, "xMin", xMin);
+            Type(limits, "xMax", xMax);
+            Type(limits, "yMin", yMin);
+            Type(limits, "yMax", yMax);
+        });
+    }
+
+    // The Mollier diagram asks for two limits besides its pressure.
+    void TakeMollierDiagram() {
+        QWidget* graph = DrawDiagram("mnuGraf_sub_HS", 1, {});
+        SetWindow(graph, "-150", "120", "-40000", "40000");
+        QWidget* box = Form("frmInputProzessLinien");
+        for (const char* p : {"100", "1000", "2500", "5000"}) {
+            Type(box, "txtValue", p);
+            Type(box, "txtFrom", "200");
+            Type(box, "txtTo", "550");
+            Click(box, "cmdDraw");
+        }
+        box->close();
+        Trigger(graph, "mnuMarkKoex");
+        SaveChart(graph, "h-s-isobars");
+    }
+
+    // One diagram of each menu.
+    void TakeFamilies() {
+        QWidget* graph = DrawDiagram("mnuGraf_sub_cut", 5, {"500", "1500", "3796", "6000"});
+        Trigger(graph, "mnuMarkKoex");
+        SaveChart(graph, "T-v-isobars");
+        graph = DrawDiagram("mnuGraf_sub_FuT", 3, {"100", "1000", "2500", "5000"});
+        SetWindow(graph, "200", "470", "-35000", "25000");
+        Trigger(graph, "mnuMarkKoex");
+        SaveChart(graph, "h-T-isobars");
+        graph = DrawDiagram("mnuGraf_sub_res_Fup", 1, {"350", "400", "425.1", "460"});
+        SetWindow(graph, "0", "6000", "-22000", "1000");
+        SaveChart(graph, "residual-enthalpy");
+        TakeMollierDiagram();
+        SaveChart(DrawDiagram("mnuGraf_sub_proj", 5, {}), "densities");
+        graph = DrawDiagram("mnuGraf_sub_database", 5, {});
+        SaveChart(graph, "database-function");
         graph->close();
     }
 

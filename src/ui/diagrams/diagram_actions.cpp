@@ -34,7 +34,7 @@ bool HasTemperatureAxis(const DiagramWindow& window) {
 }
 bool HasTieLine(const DiagramWindow& window) {
     const DiagramRow* row = FindDiagram(window.Spec().type);
-    return row != nullptr && (row->tieLine != nullptr || row->type == 3 || row->type == 4);
+    return row != nullptr && row->tieLine != nullptr;
 }
 bool HasSKurve(const DiagramWindow& window) {
     const int type = window.Spec().type;
@@ -83,10 +83,8 @@ constexpr char markCalc[] = "mnuMarkCritPointCalc";
 constexpr char markEx[] = "mnuMarkCritPointEx";
 
 constexpr DiagramMenu menus[] = {
-    {"mnuBild", "&Diagramm"},
-    {"mnuAdd", "&Einfügen"},
-    {"mnuDel", "&Löschen"},
-    {"mnuView", "&Ansicht"},
+    {"mnuBild", "&Diagramm"}, {"mnuAdd", "&Einfügen"}, {"mnuDel", "&Löschen"},
+    {"mnuView", "&Ansicht"},  {"mnuPages", "&Hilfe"},
 };
 
 using G = frmGraph2D;
@@ -147,6 +145,11 @@ constexpr DiagramAction actions[] = {
      &G::cmdXLog, IsOpen, IsLogX},
     {"cmdYLog", "mnuView", "&y-Achse logarithmisch", "", "y-Achse linear oder logarithmisch teilen", "log y",
      &G::cmdYLog, IsOpen, IsLogY},
+
+    {"cmdGraphHelp", "mnuPages", "&Diagrammfenster", "", "Hilfe zum Diagrammfenster", "", &G::cmdGraphHelp,
+     nullptr, nullptr},
+    {"cmdTypeHelp", "mnuPages", "Dieser Diagramm&typ", "", "Hilfe zum gezeigten Diagrammtyp", "",
+     &G::cmdTypeHelp, IsOpen, nullptr},
 };
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <qcustomplot.h>
 
 #include "plot/chart_file.h"
@@ -109,6 +110,19 @@ void frmGraph2D::MakeActions() {
     deleteMenu = menus["mnuDel"]->addMenu(tr("&Kurve löschen"));
     deleteMenu->setObjectName("mnuSubDelKurv");
     connect(menus["mnuDel"], &QMenu::aboutToShow, this, &frmGraph2D::UpdateDeleteMenu);
+    MakeHelpButton();
+}
+
+// In the corner, where no narrow window hides it.
+void frmGraph2D::MakeHelpButton() {
+    auto* button = new QToolButton(this);
+    button->setObjectName("cmdGraphHelp");
+    button->setText(QStringLiteral("?"));
+    button->setToolTip(tr("Hilfe"));
+    button->setAccessibleName(tr("Hilfe"));
+    button->setAutoRaise(true);
+    connect(button, &QToolButton::clicked, this, &frmGraph2D::cmdGraphHelp);
+    menuBar()->setCornerWidget(button);
 }
 
 // Separator of the copied points.
@@ -387,6 +401,16 @@ void frmGraph2D::cmdXLog() {
 
 void frmGraph2D::cmdYLog() {
     window.cmdYLog();
+}
+
+void frmGraph2D::cmdGraphHelp() {
+    emit HelpWanted(QStringLiteral("cmdGraphHelp"));
+}
+
+// The menu entry that opens the type leads to its page.
+void frmGraph2D::cmdTypeHelp() {
+    if (const DiagramRow* row = FindDiagram(window.Spec().type))
+        emit HelpWanted(QStringLiteral("%1(%2)").arg(Text(row->command)).arg(row->index));
 }
 
 } // namespace orva

@@ -57,9 +57,12 @@ public:
     void mnuCoord();
     void cmdXLog();
     void cmdYLog();
+    void cmdGraphHelp();
+    void cmdTypeHelp();
 
 signals:
     void InputWanted(); // the user wants to type the next T, p or v
+    void HelpWanted(const QString& control);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -67,6 +70,7 @@ protected:
 private:
     void MakeActions();
     void MakeSeparatorMenu(QMenu& menu);
+    void MakeHelpButton();
     void ConnectPlot();
     void ShowContents();
     void ShowMovedView();

@@ -4,6 +4,7 @@
 #include "ui/diagrams/diagram_window_view.h"
 #include "ui/diagrams/limit_input_view.h"
 #include "ui/diagrams/value_input_view.h"
+#include "ui/help_request.h"
 #include "ui/place_window.h"
 
 namespace orva {
@@ -29,6 +30,8 @@ DiagramDesk::DiagramDesk(Session& ownSession, QWidget* owner)
       graph(new frmGraph2D(window, session.dialogs, owner)), valueBox(new frmTpVSInputBox(input, graph)),
       limitBox(new frmInputProzessLinien(limits, graph)) {
     connect(graph, &frmGraph2D::InputWanted, this, &DiagramDesk::AskForValue);
+    connect(graph, &frmGraph2D::HelpWanted, graph,
+            [this](const QString& control) { RequestHelp(*graph, control); });
 }
 
 // The windows refer to the models, so they go first.
