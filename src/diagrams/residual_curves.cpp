@@ -70,8 +70,6 @@ void ResidualOverT(CurveRun& run) {
     double TLV = mayJump ? EosSaturationTemperature(run.model, run.p).value : passed;
     WalkClampedGrid(run.spec.xMax, low, -run.stepX, [&](double x) {
         double T = x / TFactor;
-        if (!PassesTriplePoint(run, T, run.model.substance.Ttrip, TripRule::Stop))
-            return false;
         if (std::abs(T - TLV) * TFactor < std::abs(run.stepX)) {
             // Vapour is the first end of this family; the liquid comes first into the curve.
             run.AddOutsideTest(run.outcome.tie.x2, run.outcome.tie.y2, run.p);
@@ -97,8 +95,6 @@ void ResidualOverP(CurveRun& run) {
     double pLV = mayJump ? EosSaturationPressure(run.model, run.T).value : passed;
     WalkClampedGrid(high, run.spec.xMin, -run.stepX, [&](double x) {
         const double p = x / pFactor;
-        if (!PassesTriplePoint(run, p, run.model.substance.ptrip, TripRule::Stop))
-            return false;
         if (p < pLV) {
             run.AddTieLineEnds(run.T);
             pLV = passed;
