@@ -53,7 +53,7 @@ DrawnCurve DrawCurve(const Session& session, DiagramWindow& window, const std::s
     if (!curve.drawn) {
         curve.points.Clear();
         // The window refuses a part inside of the two-phase region where there is none.
-        if (mode != "curve" && curve.outcome.status == curveGood)
+        if ((mode == "tie-line" || mode == "s-curve") && curve.outcome.status == curveGood)
             curve.outcome.status = curveTieLineImpossible;
     }
     return curve;

@@ -22,6 +22,7 @@ struct CurveRun {
     double T = 0, p = 0, v = 0;
     double stepX = 0, stepY = 0;
     bool windowEmpty = true; // no point so far lay inside the window
+    bool givenUp = false;    // without a start there is no curve, and no window would show it
     std::optional<AmbientState> knownAmbient = std::nullopt;
 
     // Adds a point and tests it against the window, limits excluded. A value beyond single precision is
