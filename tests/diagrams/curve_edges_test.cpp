@@ -248,6 +248,21 @@ TEST(CurveEdges, IsochorWithoutRestrictionPassesTheCoexistenceCurve) {
     EXPECT_GT(last.y, 2 * EosSaturationPressure(model, last.x).value);
 }
 
+TEST(CurveEdges, VapourPressureCurvesBeginAtTheCriticalPointInSpiteOfRounding) {
+    for (const int basis : {0, 2})
+        for (int i = 0; i < 40; ++i) {
+            ButaneDiagram d(eosPengRobinson, basis);
+            d.model.substance.Tc = Tc + 0.001 * i; // some of them grow by 1 / (1 / T)
+            d.model.eos.vCritCalc = d.model.eos.rhoCritCalc = 0.3;
+            const double factor = (d.Draw(9, 300, 101.325), d.options.TFactor);
+            EXPECT_EQ(d.curve[1].x, static_cast<float>(d.model.substance.Tc * factor)) << basis << " " << i;
+            EXPECT_FLOAT_EQ(d.curve[1].y, static_cast<float>(pc * d.options.pFactor));
+            d.Draw(10, 300, 101.325);
+            EXPECT_EQ(d.curve[1].x, static_cast<float>(1 / (d.model.substance.Tc * factor)))
+                << basis << " " << i;
+        }
+}
+
 TEST(CurveEdges, PairsOnTheCoexistenceCurveWalkTheirOwnWindowOfPressure) {
     ButaneDiagram d;
     d.ranges.pMin = 0;
