@@ -286,6 +286,52 @@ TEST(CurveEdges, TieLinesOfIsochorDiagramsBelongToTheirPressure) {
     }
 }
 
+TEST(CurveEdges, DensitiesWithoutLimitsAreDrawnAroundTheirTemperature) {
+    ButaneDiagram d;
+    d.model.substance.rhoLiquid = {};
+    d.model.substance.rhoLiquid.r1 = 900; // a single point at r3 with the slope r2
+    d.model.substance.rhoLiquid.r2 = -1;
+    d.model.substance.rhoLiquid.r3 = 293;
+    d.model.substance.rhoLiquid.Tcr = 425;
+    for (const int type : {300, 301}) {
+        const CurvePoints& curve = d.Draw(type, 300, 101.325);
+        EXPECT_EQ(d.spec.dbTMin, 283.0F);
+        EXPECT_EQ(d.spec.dbTMax, 303.0F);
+        EXPECT_EQ(curve[1].x, 283.0F);
+        const double rho = 900 - 283;
+        ExpectClose(curve[1].y, type == 300 ? rho : d.model.substance.molarMass / rho, single, "first");
+    }
+    d.model.substance.rhoLiquid = {};
+    d.model.substance.rhoLiquid.r2 = 60; // c1/c2^(1 + (1 - T/H)^c3)
+    d.model.substance.rhoLiquid.r3 = 0.26F;
+    d.model.substance.rhoLiquid.r4 = 0.28F;
+    d.model.substance.rhoLiquid.Tcr = 425;
+    d.Draw(300, 300, 101.325);
+    EXPECT_EQ(d.spec.dbTMin, 415.0F);
+    EXPECT_EQ(d.spec.dbTMax, 435.0F);
+    d.model.substance.rhoSolid = {};
+    d.model.substance.rhoSolid.s1 = 900;
+    d.model.substance.rhoSolid.s2 = -1;
+    d.model.substance.rhoSolid.s3 = 120;
+    d.Draw(310, 300, 101.325);
+    EXPECT_EQ(d.spec.dbTMin, 110.0F);
+    EXPECT_EQ(d.spec.dbTMax, 130.0F);
+    EXPECT_EQ(d.curve[1].y, 790.0F);
+}
+
+TEST(CurveEdges, WindowsOfDatabaseFunctionsHoldTheirValuesAndNoNegativeOnes) {
+    ButaneDiagram d;
+    for (const int type : {302, 307}) {
+        const CurvePoints& curve = d.Draw(type, 300, 101.325);
+        EXPECT_EQ(d.outcome.status, curveGood);
+        EXPECT_GE(d.spec.yMin, 0);
+        for (int i = 1; i <= curve.Count(); ++i) {
+            EXPECT_GE(curve[i].y, d.spec.yMin) << type;
+            EXPECT_LE(curve[i].y, d.spec.yMax) << type;
+        }
+    }
+}
+
 TEST(CurveEdges, InversionWithoutAStartIsGivenUpWithoutAMessage) {
     ButaneDiagram d(eosVanDerWaals); // its coefficient is positive at none of the starts
     d.Draw(2, 300, 101.325);
