@@ -286,6 +286,20 @@ TEST(CurveEdges, TieLinesOfIsochorDiagramsBelongToTheirPressure) {
     }
 }
 
+TEST(CurveEdges, HeatCapacitiesOfBothBoundariesRiseTowardsTheCriticalPoint) {
+    for (const int eos :
+         {eosVanDerWaals, eosBerthelot, eosRedlichKwong, eosSoaveRedlichKwong, eosPengRobinson})
+        for (const int type : {72, 92})
+            for (const int fraction : {0, 1}) {
+                ButaneDiagram d(eos);
+                d.mode.vapourFraction = fraction;
+                const CurvePoints& curve = d.Draw(type, 300, 101.325);
+                ASSERT_GT(curve.Count(), 50) << eos;
+                for (int i = 1; i < 20; ++i)
+                    EXPECT_GT(curve[i].y, curve[i + 1].y) << eos << " " << Place(type, i, curve[i]);
+            }
+}
+
 TEST(CurveEdges, DensitiesWithoutLimitsAreDrawnAroundTheirTemperature) {
     ButaneDiagram d;
     d.model.substance.rhoLiquid = {};
