@@ -359,6 +359,17 @@ TEST(CurveEdges, InversionWithoutAStartIsGivenUpWithoutAMessage) {
     EXPECT_EQ(window.Chart().curveCount, 0);
 }
 
+TEST(CurveEdges, TheSearchForAnInversionBeginsTwoStepsBeforeItsStart) {
+    ButaneDiagram d;
+    const InversionResult found = JouleThomsonInversionT(d.model, 0.02, 1700, -10, 0, 1720.5);
+    ASSERT_FALSE(found.failed);
+    EXPECT_NEAR(found.value, 1680, 20); // below 1720, where it began
+    EXPECT_TRUE(JouleThomsonInversionT(d.model, 0.02, 1700, -10, 0, 1720).failed);
+    EXPECT_TRUE(JouleThomsonInversionT(d.model, 0.02, 1700, -10, 1690, 1800).failed);
+    ButaneDiagram ideal(eosIdealGas); // without any effect there is no change of sign
+    EXPECT_TRUE(JouleThomsonInversionT(ideal.model, 0.02, 1700, -10, 0, 1800).failed);
+}
+
 TEST(CurveEdges, InversionOfACoolGasHasItsLowerBranchThoughTheFixedStartFails) {
     MethaneDiagram d;
     d.model.selection.cpModel = 1;
