@@ -34,8 +34,6 @@ struct CurveRun {
     void AddOutsideTest(double x, double y, double z);
     bool IsInWindow(double x, double y) const;
 
-    // Adds both ends of the tie line, in the order of their numbers.
-    void AddTieLineEnds(double z);
     bool HasTieLine() const;
 
     // A cubic equation below its critical temperature.

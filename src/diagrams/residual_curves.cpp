@@ -72,8 +72,8 @@ void ResidualOverT(CurveRun& run) {
         double T = x / TFactor;
         if (std::abs(T - TLV) * TFactor < std::abs(run.stepX)) {
             // Vapour is the first end of this family; the liquid comes first into the curve.
-            run.AddOutsideTest(run.outcome.tie.x2, run.outcome.tie.y2, run.p);
-            run.AddOutsideTest(run.outcome.tie.x1, run.outcome.tie.y1, run.p);
+            run.Add(run.outcome.tie.x2, run.outcome.tie.y2, run.p);
+            run.Add(run.outcome.tie.x1, run.outcome.tie.y1, run.p);
             T = TLV - besideTieLine;
             TLV = passed;
         }
@@ -96,7 +96,8 @@ void ResidualOverP(CurveRun& run) {
     WalkClampedGrid(high, run.spec.xMin, -run.stepX, [&](double x) {
         const double p = x / pFactor;
         if (p < pLV) {
-            run.AddTieLineEnds(run.T);
+            run.Add(run.outcome.tie.x1, run.outcome.tie.y1, run.T);
+            run.Add(run.outcome.tie.x2, run.outcome.tie.y2, run.T);
             pLV = passed;
         }
         ResidualState state;

@@ -113,6 +113,26 @@ TEST(CurveEdges, LiquidOrVapourComesFirstAtAJump) {
     }
 }
 
+// A window that holds one end of the jump and nothing else shows a part of the curve.
+TEST(CurveEdges, EndsOfAJumpCountAsPointsInTheWindow) {
+    ButaneDiagram d;
+    for (const int type : {15, 16, 31, 33, 150, 154, 41, 43}) {
+        d.Draw(type, 380, 1000);
+        const TieLine tie = d.outcome.tie;
+        // The vapour over T, the liquid over p: beside the other end stands a point of the grid.
+        const float y = type < 20 || (type >= 40 && type < 50) || type >= 150 ? tie.y2 : tie.y1;
+        const float room = 1e-5F * std::abs(tie.y2 - tie.y1);
+        d.spec.yMin = y - room;
+        d.spec.yMax = y + room;
+        const CurvePoints& curve = d.DrawAgain(380, 1000);
+        int inside = 0;
+        for (int i = 1; i <= curve.Count(); ++i)
+            inside += curve[i].y > d.spec.yMin && curve[i].y < d.spec.yMax ? 1 : 0;
+        EXPECT_EQ(inside, 1) << type;
+        EXPECT_EQ(d.outcome.status, curveGood) << type;
+    }
+}
+
 TEST(CurveEdges, WhereBothPhasesStandTheFamilyChooses) {
     ButaneDiagram d;
     const Saturated s = SaturationAt(d, 380);
