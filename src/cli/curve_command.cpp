@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/diagram_options.h"
 #include "cli/drawing.h"
+#include "diagrams/diagram_conditions.h"
 #include "diagrams/diagram_window.h"
 
 namespace orva {
@@ -53,7 +54,7 @@ DrawnCurve DrawCurve(const Session& session, DiagramWindow& window, const std::s
     if (!curve.drawn) {
         curve.points.Clear();
         // The window refuses a part inside of the two-phase region where there is none.
-        if (mode != "curve" && curve.outcome.status == curveGood)
+        if ((mode == "tie-line" || mode == "s-curve") && curve.outcome.status == curveGood)
             curve.outcome.status = curveTieLineImpossible;
     }
     return curve;
@@ -130,8 +131,11 @@ Answer CurveCommand(Workspace& workspace, const Request& request, Drawing& drawi
         return AnswerFor(*failure);
     Session& session = workspace.Records();
     ApplyDiagramOptions(options, session.options);
+    const DiagramRow* row = FindDiagram(options.type);
+    if (row != nullptr && !MayDraw(*row, session.model, session.dialogs))
+        return AnswerFor(FailureFrom(exitCalculationFailed, workspace.Messages(), "no such diagram"));
     DiagramWindow window(DiagramRecordsOf(session), session.dialogs);
-    window.Open(FindDiagram(options.type));
+    window.Open(row);
     if (options.window) {
         const auto& [xMin, xMax, yMin, yMax] = *options.window;
         if (!window.cmdCoord_OK({xMin, xMax, yMin, yMax}))

@@ -29,6 +29,13 @@ bool AddState(CurveRun& run, double x, double T, double p, double v, double z) {
     return true;
 }
 
+// Both ends of the jump, in the order of their numbers.
+void AddTieLineEnds(CurveRun& run) {
+    const TieLine& tie = run.outcome.tie;
+    run.AddTestingY(tie.x1, tie.y1, 0);
+    run.AddTestingY(tie.x2, tie.y2, 0);
+}
+
 struct OnePhase {
     double p = 0, v = 0;
     bool exists = false;
@@ -112,7 +119,7 @@ void CaloricOverT(CurveRun& run) {
         if (!PassesTriplePoint(run, T, run.model.substance.Ttrip, TripRule::Stop))
             return false;
         if (std::abs(T - TLV) * TFactor < std::abs(run.stepX)) {
-            run.AddTieLineEnds(0);
+            AddTieLineEnds(run);
             T = TLV - besideTieLine;
             TLV = passed;
         }
@@ -144,7 +151,7 @@ void CaloricOverP(CurveRun& run) {
         if (!PassesTriplePoint(run, p, run.model.substance.ptrip, TripRule::Stop))
             return false;
         if (p < pLV) {
-            run.AddTieLineEnds(0);
+            AddTieLineEnds(run);
             pLV = passed;
         }
         PhaseVolumes phases;

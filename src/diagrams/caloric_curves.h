@@ -17,7 +17,7 @@ void CaloricOverVolume(CurveRun& run); // isotherm
 void HeatCapacityOverT(CurveRun& run);
 void JouleThomsonOverT(CurveRun& run);
 
-// Residual functions over T (isobar) and over p (isotherm).
+// Residual functions over T (isobar) and over p (isotherm), in the whole window: the triple point ends none.
 void ResidualOverT(CurveRun& run);
 void ResidualOverP(CurveRun& run);
 

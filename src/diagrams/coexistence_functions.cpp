@@ -42,6 +42,9 @@ void AddCriticalPoint(CurveRun& run, bool overP, double CaloricValues::*value) {
     const CaloricResult state = CaloricState(model, T, p, phases.hasL ? phases.vL : phases.vV, run.Ambient());
     if (state.failed)
         return;
+    // cp has no bound there. What rounding leaves of it has any sign and size, and stays where it points up.
+    if (value == &CaloricValues::cp && !(state.values.cp > largestHeatCapacity))
+        return;
     run.UseTemperature(T);
     const double y = state.values.*value * run.options.energyFactor;
     run.Add(overP ? p * run.options.pFactor : T * run.options.TFactor, y, overP ? T : p);

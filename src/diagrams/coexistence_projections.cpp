@@ -114,6 +114,8 @@ void CoexistenceDensities(CurveRun& run) {
         const double T = x / TFactor;
         if (IsBelowTriplePoint(run, T, model.substance.Ttrip))
             return false;
+        if (T >= model.substance.Tc) // the critical point stands already; no pair of roots belongs to it
+            return true;
         const SaturationResult saturation = EosSaturationPressure(model, T);
         const auto& roots = model.work.Roots;
         if (saturation.failed

@@ -137,7 +137,7 @@ void CoexistenceTrace::Draw() {
     bool entered = false;
     for (int i = 0; i < mostGridSteps && !ended; ++i) {
         const Saturated state = NextState();
-        if (ended || T < missingValue || state.p == lastP || (state.failed && entered))
+        if (ended || T < missingValue || state.p == lastP)
             return;
         if (state.failed || state.p >= model.substance.pc || state.vL > vCrit || state.vV < vCrit)
             continue;

@@ -75,7 +75,7 @@ void RunFamily(CurveRun& run) {
     }
     RestoreStart(run);
     run.row.family(run);
-    if (run.windowEmpty && run.outcome.status != curveNoCriticalDensity)
+    if (run.windowEmpty && !run.givenUp && run.outcome.status != curveNoCriticalDensity)
         run.outcome.status = curveOutsideWindow;
 }
 

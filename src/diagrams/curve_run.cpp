@@ -42,11 +42,6 @@ bool CurveRun::HasTieLine() const {
     return std::abs(outcome.tie.x1 + outcome.tie.x2) > 0;
 }
 
-void CurveRun::AddTieLineEnds(double z) {
-    AddOutsideTest(outcome.tie.x1, outcome.tie.y1, z);
-    AddOutsideTest(outcome.tie.x2, outcome.tie.y2, z);
-}
-
 bool CurveRun::HasLoop() const {
     return !model.selection.nonCubic && T < model.substance.Tc;
 }

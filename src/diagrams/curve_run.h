@@ -24,6 +24,7 @@ struct CurveRun {
     double T = 0, p = 0, v = 0;
     double stepX = 0, stepY = 0;
     bool windowEmpty = true; // no point so far lay inside the window
+    bool givenUp = false;    // without a start there is no curve, and no window would show it
     std::optional<AmbientState> knownAmbient = std::nullopt;
 
     // Adds a point and tests it against the window, limits excluded. A value beyond single precision is
@@ -35,8 +36,6 @@ struct CurveRun {
     void AddOutsideTest(double x, double y, double z);
     bool IsInWindow(double x, double y) const;
 
-    // Adds both ends of the tie line, in the order of their numbers.
-    void AddTieLineEnds(double z);
     bool HasTieLine() const;
 
     // A cubic equation below its critical temperature.

@@ -24,17 +24,23 @@ DatabaseRange RangeOf(double low, double high) {
     return {static_cast<float>(low), static_cast<float>(high)};
 }
 
-// A single point with a slope stands for a small range around its temperature.
+// Without limits a single point with a slope stands for a small range around its temperature, and any other
+// form for one around its reference temperature.
+DatabaseRange Around(double T) {
+    return RangeOf(T - pointRange, T + pointRange);
+}
 DatabaseRange LiquidDensityRange(const SubstanceModel& model) {
     const LiquidDensityBlock& c = model.substance.rhoLiquid;
-    if (c.Tlo == 0 && c.Thi == 0 && c.r3 > missingValue)
-        return RangeOf(c.r3 - pointRange, c.r3 + pointRange);
-    return RangeOf(c.Tlo, c.Thi);
+    if (c.Tlo != 0 || c.Thi != 0)
+        return RangeOf(c.Tlo, c.Thi);
+    if (c.r1 > missingValue && c.r3 > missingValue)
+        return Around(c.r3);
+    return c.Tcr > missingValue ? Around(c.Tcr) : DatabaseRange();
 }
 DatabaseRange SolidDensityRange(const SubstanceModel& model) {
     const SolidDensityBlock& c = model.substance.rhoSolid;
-    if (c.Tlo == 0 && c.Thi == 0 && c.s3 > missingValue)
-        return RangeOf(c.s3 - pointRange, c.s3 + pointRange);
+    if (c.Tlo == 0 && c.Thi == 0 && c.s1 > missingValue && c.s3 > missingValue)
+        return Around(c.s3);
     return RangeOf(c.Tlo, c.Thi);
 }
 DatabaseRange IdealCpRange(const SubstanceModel& model) {
@@ -163,7 +169,8 @@ void SetDatabaseWindow(const SubstanceModel& model, const Options& options, Diag
     const double room = high > low ? 0 : windowRoom * std::abs(high);
     spec.xMin = range.low * options.TFactor;
     spec.xMax = range.high * options.TFactor;
-    spec.yMin = static_cast<float>(low - room);
+    // What is never negative needs no room below 0.
+    spec.yMin = static_cast<float>(low < 0 ? low - room : std::max(low - room, 0.0));
     spec.yMax = static_cast<float>(high + room);
 }
 

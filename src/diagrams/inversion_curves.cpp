@@ -51,9 +51,13 @@ Coefficient JouleThomsonAt(SubstanceModel& model, double T, double p) {
     return {state.table.jouleThomson, v, state.failed, false};
 }
 
+bool HasFixedStart(const SubstanceModel& model) {
+    return model.substance.Tc < lowCriticalT;
+}
+
 InversionResult HighestInversion(SubstanceModel& model) {
     const double Tc = model.substance.Tc;
-    if (Tc < lowCriticalT)
+    if (HasFixedStart(model))
         return JouleThomsonInversionT(model, startPressure, fixedStart, upperMarch, 0, 1.3 * fixedStart);
     double start = 5 * Tc;
     for (int i = 0; i < mostStarts; ++i, start -= startDistance) {
@@ -84,6 +88,38 @@ void AddState(CurveRun& run, double p, double pFactor, double T) {
         return;
     const double v = phases.hasL ? phases.vL : phases.vV;
     run.Add(p * pFactor, p * pFactor * v * run.options.volumeFactor, T);
+}
+
+double PressureAt(const CurveRun& run, double x) {
+    const double p = x / run.options.pFactor;
+    return p < missingValue ? leastPressure : p;
+}
+
+// Up in p, down in T, until no zero is found any more.
+void UpperBranch(CurveRun& run, double T) {
+    WalkGrid(run, run.spec.xMin, run.spec.xMax + 2 * run.stepX, 2 * run.stepX, [&](double x) {
+        const double p = PressureAt(run, x);
+        const InversionResult found = JouleThomsonInversionT(run.model, p, T, upperMarch, 0, 1.3 * T);
+        if (found.failed)
+            return false;
+        T = found.value;
+        // Kept on purpose: this branch goes without the factor of the pressure.
+        AddState(run, p, 1, T);
+        return true;
+    });
+}
+
+void LowerBranch(CurveRun& run) {
+    double T = lowerStart;
+    WalkGrid(run, run.spec.xMax + 2 * run.stepX, run.spec.xMin, -2 * run.stepX, [&](double x) {
+        const double p = PressureAt(run, x);
+        const InversionResult found = LowerInversion(run.model, p, T);
+        if (found.failed)
+            return true;
+        T = found.value;
+        AddState(run, p, run.options.pFactor, T);
+        return true;
+    });
 }
 
 } // namespace
@@ -132,32 +168,14 @@ InversionResult JouleThomsonInversionP(SubstanceModel& model, double T, double s
 
 void InversionPvOverP(CurveRun& run) {
     run.curve.SetZKind(zTemperature);
-    InversionResult last = HighestInversion(run.model);
-    if (last.failed)
-        return;
-    const double pFactor = run.options.pFactor;
-    const double xEnd = run.spec.xMax + 2 * run.stepX;
-    WalkGrid(run, run.spec.xMin, xEnd, 2 * run.stepX, [&](double x) {
-        const double given = x / pFactor;
-        const double p = given < missingValue ? leastPressure : given;
-        last = JouleThomsonInversionT(run.model, p, last.value, upperMarch, 0, 1.3 * last.value);
-        if (last.failed)
-            return false;
-        // Kept on purpose: this branch goes without the factor of the pressure.
-        AddState(run, p, 1, last.value);
-        return true;
-    });
-    last.value = lowerStart;
-    WalkGrid(run, xEnd, run.spec.xMin, -2 * run.stepX, [&](double x) {
-        const double given = x / pFactor;
-        const double p = given < missingValue ? leastPressure : given;
-        const InversionResult found = LowerInversion(run.model, p, last.value);
-        if (found.failed)
-            return true;
-        last = found;
-        AddState(run, p, pFactor, found.value);
-        return true;
-    });
+    const InversionResult highest = HighestInversion(run.model);
+    if (!highest.failed)
+        UpperBranch(run, highest.value);
+    // Of several starts one must have led to the upper branch. The fixed one lies too low for many gases, and
+    // their lower branch is drawn alone.
+    if (!highest.failed || HasFixedStart(run.model))
+        LowerBranch(run);
+    run.givenUp = highest.failed && run.curve.Count() == 0;
 }
 
 void InversionPOverT(CurveRun& run) {

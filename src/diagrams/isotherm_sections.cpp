@@ -56,11 +56,17 @@ void VirialIsotherm(CurveRun& run, bool density) {
     });
 }
 
+// The one root above T(cr). At very low pressure rounding adds two that are none, the first below b.
+double OneRoot(const SubstanceModel& model) {
+    const auto& roots = model.work.Roots;
+    return roots[0] > model.eos.B ? roots[0] : roots[2];
+}
+
 void SupercriticalIsotherm(CurveRun& run, bool density) {
     WalkClampedGrid(run, run.spec.xMin, run.spec.xMax, run.stepX, [&](double x) {
         const double p = std::max(x / run.options.pFactor, lowestSupercriticalP);
         const CubicSolution cubic = SolveEosCubic(run.model, run.T, p);
-        const double v = run.model.work.Roots[0];
+        const double v = OneRoot(run.model);
         if (cubic.failed || cubic.rootCount == 0 || v <= run.model.eos.B)
             return true;
         const double pv = PvOfEquation(run.model.eos, run.T, v);

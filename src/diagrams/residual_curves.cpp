@@ -70,12 +70,10 @@ void ResidualOverT(CurveRun& run) {
     double TLV = mayJump ? EosSaturationTemperature(run.model, run.p).value : passed;
     WalkClampedGrid(run, run.spec.xMax, low, -run.stepX, [&](double x) {
         double T = x / TFactor;
-        if (!PassesTriplePoint(run, T, run.model.substance.Ttrip, TripRule::Stop))
-            return false;
         if (std::abs(T - TLV) * TFactor < std::abs(run.stepX)) {
             // Vapour is the first end of this family; the liquid comes first into the curve.
-            run.AddOutsideTest(run.outcome.tie.x2, run.outcome.tie.y2, run.p);
-            run.AddOutsideTest(run.outcome.tie.x1, run.outcome.tie.y1, run.p);
+            run.Add(run.outcome.tie.x2, run.outcome.tie.y2, run.p);
+            run.Add(run.outcome.tie.x1, run.outcome.tie.y1, run.p);
             T = TLV - besideTieLine;
             TLV = passed;
         }
@@ -97,10 +95,9 @@ void ResidualOverP(CurveRun& run) {
     double pLV = mayJump ? EosSaturationPressure(run.model, run.T).value : passed;
     WalkClampedGrid(run, high, run.spec.xMin, -run.stepX, [&](double x) {
         const double p = x / pFactor;
-        if (!PassesTriplePoint(run, p, run.model.substance.ptrip, TripRule::Stop))
-            return false;
         if (p < pLV) {
-            run.AddTieLineEnds(run.T);
+            run.Add(run.outcome.tie.x1, run.outcome.tie.y1, run.T);
+            run.Add(run.outcome.tie.x2, run.outcome.tie.y2, run.T);
             pLV = passed;
         }
         ResidualState state;

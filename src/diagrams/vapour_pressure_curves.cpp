@@ -14,7 +14,15 @@ namespace orva {
 namespace {
 
 constexpr double smallestLogPressure = 0.01; // kPa
-constexpr double startOfMaximum = -37000;    // K, below every slope
+constexpr double roundingOfT = 1e-12;
+constexpr double startOfMaximum = -37000; // K, below every slope
+
+// These curves begin at T(cr), which its way through the axis may leave a rounding error too high for an
+// equilibrium.
+double WithoutRounding(const CurveRun& run, double T) {
+    const double Tc = run.model.substance.Tc;
+    return T > Tc && T < Tc * (1 + roundingOfT) ? Tc : T;
+}
 
 double PressureInForce(CurveRun& run, double T) {
     SubstanceModel& model = run.model;
@@ -27,7 +35,7 @@ double PressureInForce(CurveRun& run, double T) {
 template<typename Visit> void WalkInverseT(CurveRun& run, Visit visit) {
     const double TFactor = run.options.TFactor;
     WalkIntoWindow(run, 1 / (run.model.substance.Tc * TFactor), run.spec.xMax, run.stepX, [&](double x) {
-        const double T = 1 / (TFactor * x);
+        const double T = WithoutRounding(run, 1 / (TFactor * x));
         if (IsBelowTriplePoint(run, T, run.model.substance.Ttrip))
             return false;
         visit(x, T);
@@ -45,7 +53,7 @@ bool SearchesMaximum(int equation) {
 void VapourPressureCurve(CurveRun& run) {
     const double TFactor = run.options.TFactor;
     WalkIntoWindow(run, run.model.substance.Tc * TFactor, run.spec.xMin, -run.stepX, [&](double x) {
-        const double T = x / TFactor;
+        const double T = WithoutRounding(run, x / TFactor);
         if (IsBelowTriplePoint(run, T, run.model.substance.Ttrip))
             return false;
         const double p = PressureInForce(run, T);

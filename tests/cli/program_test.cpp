@@ -333,6 +333,27 @@ TEST_F(CliProgram, CoexistenceGivesBothBoundariesOrOneLine) {
     EXPECT_THAT(refused.error, HasSubstr("VL-Koexistenzkurve nur für kubische EOS möglich."));
 }
 
+TEST_F(CliProgram, DiagramsHaveTheConditionsOfTheMenu) {
+    for (const char* type : {"6", "9", "90", "106"}) {
+        const ProcessResult refused =
+            process.Run(std::string("curve --substance n-Butan --eos 15 --type ") + type);
+        EXPECT_EQ(refused.exitStatus, 1) << type;
+        EXPECT_THAT(refused.error, HasSubstr("Phasengleichgewichts-Berechnungen sind nur mit einer kubischen "
+                                             "Zustandsgleichung möglich"));
+    }
+    const ProcessResult slope = process.Run("curve --substance n-Butan --type 11");
+    EXPECT_EQ(slope.exitStatus, 0);
+    EXPECT_EQ(slope.Answer()["messages"][0]["title"], "HINWEIS");
+}
+
+TEST_F(CliProgram, InversionWithoutAStartIsNoTieLine) {
+    const ProcessResult result = process.Run("curve --substance n-Butan --eos 2 --type 2 --mode inversion");
+    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.Answer()["status"], 0);
+    EXPECT_TRUE(result.Answer()["points"].empty());
+    EXPECT_TRUE(result.Answer()["messages"].empty());
+}
+
 TEST_F(CliProgram, LimitsBelongToTheDiagramsOfTwoFunctions) {
     const Json pair =
         process.Run("curve --substance n-Butan --type 107 --T 350 --limits 100,900 --points 10").Answer();

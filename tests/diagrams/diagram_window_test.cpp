@@ -164,6 +164,43 @@ TEST(DiagramWindow, ImpossibleTieLineIsWordedAndNotStored) {
     EXPECT_EQ(w.window.Chart().curveCount, 0);
 }
 
+TEST(DiagramWindow, WarnsOfACurveBelowTheTriplePointAndStoresIt) {
+    for (const int eos : {eosPengRobinson, virialPengRobinson}) {
+        OpenWindow w(eos);
+        w.d.model.selection.cpModel = 1;
+        w.d.model.substance.cpPolynomial = {33, 0.01F, 0, 0, 0, 50, 1000};
+        w.d.options.curveTpRestricted = false;
+        w.window.Open(FindDiagram(19));
+        ASSERT_TRUE(w.window.cmdCoord_OK({60, 200, 0, 200}));
+        EXPECT_TRUE(w.window.cmdDraw());
+        if (eos == eosPengRobinson) {
+            EXPECT_THAT(w.d.dialogs.messages,
+                        ElementsAre(Message{
+                            "WARNUNG", "Es wurde teilweise bei T < T(Trip.P.) gerechnet! (Tripelpunkt)"}));
+        } else {
+            EXPECT_THAT(w.d.dialogs.messages, IsEmpty()); // a word for cubic equations only
+        }
+        EXPECT_EQ(w.window.LastOutcome().status, curveBelowTriplePoint);
+        EXPECT_EQ(w.window.Chart().curveCount, 1);
+    }
+}
+
+TEST(DiagramWindow, DensitiesWithoutACriticalVolumeAreRefused) {
+    OpenWindow w;
+    w.window.Open(FindDiagram(8));
+    w.d.model.eos.vCritCalc = 0;
+    EXPECT_FALSE(w.window.DrawAtOnce());
+    EXPECT_THAT(w.d.dialogs.messages, ElementsAre(Refusal("keine kritische Dichte verfügbar")));
+    EXPECT_EQ(w.window.Chart().curveCount, 0);
+}
+
+TEST(DiagramWindow, DensitiesOverTemperatureAreSinglePoints) {
+    OpenWindow w;
+    w.window.Open(FindDiagram(8));
+    EXPECT_TRUE(w.window.DrawAtOnce());
+    EXPECT_EQ(w.window.Chart().Series(1).style, LineStyle::PointsOnly);
+}
+
 TEST(DiagramWindow, SCurveIsTheDashedInnerPart) {
     OpenWindow w;
     w.d.request.curveT = 150;

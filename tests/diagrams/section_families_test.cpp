@@ -112,7 +112,9 @@ TEST(SectionFamilies, CaloricBoundariesHoldTheSaturatedStates) {
             const CurvePoints& curve = d.Draw(type, 300, 101.325);
             ASSERT_GT(curve.Count(), 100) << type;
             EXPECT_EQ(curve.ZKind(), type < 90 ? zTemperature : zPressure);
-            EXPECT_NEAR(curve[1].x, type < 90 ? pc : Tc, 1e-3);
+            if (value != &CaloricValues::cp) { // which has no bound there
+                EXPECT_NEAR(curve[1].x, type < 90 ? pc : Tc, 1e-3);
+            }
             for (int i = 20; i <= curve.Count(); i += 17) {
                 const double T = type < 90 ? curve[i].z : curve[i].x;
                 const Saturated s = SaturationAt(d, T);
