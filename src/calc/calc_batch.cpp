@@ -2,7 +2,6 @@
 #include "calc/calc_batch.h"
 
 #include <cmath>
-#include <limits>
 
 #include "calc/input_checks.h"
 #include "calc/point_kinds.h"
@@ -129,12 +128,10 @@ void BlankRecord(ResultRecord& record) {
     record.Tcalc = record.pcalc = record.rhoV = record.rhoL = record.hLV = 0;
 }
 
-// All that is printed or kept is single precision in the end.
 template<class Number, std::size_t count> bool AllSingles(const std::array<Number, count>& values) {
-    constexpr Number largest = std::numeric_limits<float>::max();
     bool all = true;
     for (const Number value : values)
-        all &= std::abs(value) <= largest;
+        all &= FitsSingle(value);
     return all;
 }
 

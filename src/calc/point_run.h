@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cmath>
+#include <limits>
+
 #include "calc/calc_batch.h"
 #include "thermo/phase_volumes.h"
 
@@ -19,6 +22,11 @@ struct PointRun {
     bool endsAtOnce = false; // without the words on the given state
     PhaseVolumes phases{};
 };
+
+// All that is printed or kept is single precision in the end. False for what is no number.
+inline bool FitsSingle(double x) {
+    return std::abs(x) <= std::numeric_limits<float>::max();
+}
 
 // The row of the data series that the run is about.
 const BatchRow& CurrentRow(const PointRun& run);

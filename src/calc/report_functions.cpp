@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calc/report_functions.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 
 #include "calc/input_checks.h"
 #include "calc/report_units.h"
@@ -142,16 +144,21 @@ bool ListsFunctions(int kind) {
 void AppendGlobalList(PointRun& run) {
     if (!ShowsTexts(run))
         return;
-    const SaturationCaloricResult state = SaturationCaloric(run.context.model, run.T);
-    if (state.failed)
-        return;
     const Options& options = run.context.options;
+    const SaturationCaloricResult state = SaturationCaloric(run.context.model, run.T);
+    const double y = run.y;
+    const auto global = [&](const GlobalRow& row) {
+        return (y * state.vapour.*row.value + (1 - y) * state.liquid.*row.value) * options.energyFactor;
+    };
+    if (state.failed || !std::all_of(std::begin(globalRows), std::end(globalRows), [&](const GlobalRow& row) {
+            return FitsSingle(global(row));
+        }))
+        return;
     const bool molar = options.unitBasis == 0;
     const std::string energy = molar ? "kJ/kmol" : "kJ/kg";
     const std::string entropy = molar ? "kJ/(kmol K)" : "kJ/(kg K)";
     const std::string title =
         std::string(molar ? "molare" : "spezifische") + " globale Funktionen  z = y(V) z(V) + (1 - y(V) z(L)";
-    const double y = run.y;
     const double v = y * run.phases.vV + (1 - y) * run.phases.vL;
     AppendLine(run, "");
     AppendLine(run, title);
@@ -161,11 +168,9 @@ void AppendGlobalList(PointRun& run) {
                         + "  kg/m^3");
     AppendLine(run, "Volumen v         = " + RoundTripText(run, v * options.volumeFactor) + "  "
                         + (molar ? "m^3/kmol" : "m^3/kg"));
-    for (const GlobalRow& row : globalRows) {
-        const double z = y * state.vapour.*row.value + (1 - y) * state.liquid.*row.value;
-        AppendLine(run, std::string(row.label) + RoundTripText(run, z * options.energyFactor) + "  "
+    for (const GlobalRow& row : globalRows)
+        AppendLine(run, std::string(row.label) + RoundTripText(run, global(row)) + "  "
                             + (row.unit == 0 ? energy : entropy));
-    }
 }
 
 void AppendFunctionRows(PointRun& run) {

@@ -13,6 +13,13 @@ constexpr int gap = 12;
 
 } // namespace
 
+int WidthForTitle(const QWidget& window) {
+    constexpr int besideTitle = 130; // icon, buttons and the room between them
+    QFont bold = window.font();
+    bold.setBold(true);
+    return QFontMetrics(bold).horizontalAdvance(window.windowTitle()) + besideTitle;
+}
+
 void BringToFront(QWidget& window) {
     if (window.isMinimized())
         window.showNormal();

@@ -11,4 +11,7 @@ void BringToFront(QWidget& window);
 // Moves a window to the right of the other one, as far as the screen reaches.
 void PlaceBeside(QWidget& window, const QWidget& other);
 
+// Width that a small window needs to show its whole title between its icon and its buttons.
+int WidthForTitle(const QWidget& window);
+
 } // namespace orva

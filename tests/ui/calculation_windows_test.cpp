@@ -4,6 +4,7 @@
 #include "shell/road.h"
 #include "ui/calc/diagnosis_window.h"
 #include "ui/calc/iso_window.h"
+#include "ui/place_window.h"
 #include "ui/theme.h"
 #include "ui/ui_fixture.h"
 
@@ -32,6 +33,7 @@ struct CalculationWindows : Workbench {
 
 TEST_F(CalculationWindows, AskForTAndPAndShowTheResultWindowBeneath) {
     EXPECT_EQ(input->windowTitle(), "Eingabe Direktberechnung");
+    EXPECT_GE(input->width(), WidthForTitle(*input));
     EXPECT_FALSE(input->isModal());
     EXPECT_TRUE(In<QLineEdit>(input, "par(0)")->isVisible());
     EXPECT_TRUE(In<QLineEdit>(input, "par(1)")->isVisible());

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "ui/place_window.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -18,6 +19,7 @@ frmParinput::frmParinput(PointInput pointInput, Dialogs& boxes, QWidget* parent)
     setWindowTitle(ToQt(input.Title()));
     setAttribute(Qt::WA_DeleteOnClose);
     auto* column = new QVBoxLayout(this);
+    column->addStrut(WidthForTitle(*this));
     auto* grid = new QGridLayout;
     for (int i = 0; i < 4; ++i) {
         const auto at = static_cast<std::size_t>(i);
