@@ -51,10 +51,10 @@ void AddCriticalPoint(CurveRun& run, bool overP, double CaloricValues::*value) {
 }
 
 // The pair of values at one equilibrium, by the lever.
-bool FunctionOnLine(CurveRun& run, double T, double p, double& y) {
+bool FunctionOnLine(CurveRun& run, double T, double p, const SaturationResult& saturation, double& y) {
     SubstanceModel& model = run.model;
     PhaseVolumes phases;
-    EosPhaseVolumes(model, T, p, phases);
+    SaturatedPhaseVolumes(model, T, p, saturation, phases);
     if (phases.failed || !(phases.vL > 0 && phases.vV > 0))
         return false;
     const CaloricResult liquid = CaloricState(model, T, p, phases.vL, run.Ambient());
@@ -66,7 +66,7 @@ bool FunctionOnLine(CurveRun& run, double T, double p, double& y) {
     return true;
 }
 
-// Walks down in T from the window's end; `visit` takes x, T and p(LV).
+// Walks down in T from the window's end; `visit` takes x, T and what the search for p(LV) found.
 template<typename Visit> void WalkSaturation(CurveRun& run, Visit visit) {
     SubstanceModel& model = run.model;
     WalkGrid(run, run.spec.xMax, run.spec.xMin, -run.stepX, [&](double x) {
@@ -77,7 +77,7 @@ template<typename Visit> void WalkSaturation(CurveRun& run, Visit visit) {
         if (saturation.failed || saturation.value < missingValue)
             return true;
         run.UseTemperature(T);
-        visit(x, T, saturation.value);
+        visit(x, T, saturation);
         return true;
     });
 }
@@ -100,7 +100,7 @@ void CoexistenceFunctionOverP(CurveRun& run) {
         if (saturation.failed || T < missingValue)
             return true;
         run.UseTemperature(T);
-        if (FunctionOnLine(run, T, p, y))
+        if (FunctionOnLine(run, T, p, saturation, y))
             run.Add(x, y, T);
         return true;
     });
@@ -109,9 +109,10 @@ void CoexistenceFunctionOverP(CurveRun& run) {
 void CoexistenceFunctionOverT(CurveRun& run) {
     run.curve.SetZKind(zPressure);
     AddCriticalPoint(run, false, run.row.property.y);
-    WalkSaturation(run, [&](double x, double T, double p) {
+    WalkSaturation(run, [&](double x, double T, const SaturationResult& saturation) {
+        const double p = saturation.value;
         double y = 0;
-        if (FunctionOnLine(run, T, p, y))
+        if (FunctionOnLine(run, T, p, saturation, y))
             run.Add(x, y, p);
     });
 }
@@ -120,8 +121,9 @@ void CoexistenceFunctionOverT(CurveRun& run) {
 void CoexistenceParameterOverT(CurveRun& run) {
     run.curve.SetZKind(zPressure);
     AddCriticalPoint(run, false, &CaloricValues::f);
-    WalkSaturation(
-        run, [&](double x, double, double p) { run.Add(x, run.model.eos.A * run.options.energyFactor, p); });
+    WalkSaturation(run, [&](double x, double, const SaturationResult& saturation) {
+        run.Add(x, run.model.eos.A * run.options.energyFactor, saturation.value);
+    });
 }
 
 void CoexistenceFunctionOverVolume(CurveRun& run) {

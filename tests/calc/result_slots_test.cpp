@@ -112,6 +112,23 @@ TEST(ResultSlots, SaturationPressureWithItsFunctionList) {
                 2e-06);
 }
 
+// Below about 1e-3 kPa the cubic solved at the pressure loses the liquid volume to rounding.
+TEST(ResultSlots, TheFunctionListOfAColdLiquidHasBothPhases) {
+    Reported c;
+    c.state.FunctionList = true;
+    for (const double T : {115.0, 120.0, 130.0}) {
+        const PointResult r = c.Run(kindSaturationPressure, RowT(T));
+        EXPECT_LT(r.p, 1e-3);
+        const double hV = r.results[slotVolumeV + 1], hL = r.results[slotVolumeL + 1];
+        const double gV = r.results[slotVolumeV + 3], gL = r.results[slotVolumeL + 3];
+        EXPECT_NEAR(gL, gV, 1e-6 * std::abs(gV)) << T;
+        const double slope = std::log(c.Run(kindSaturationPressure, RowT(T + 0.1)).p
+                                      / c.Run(kindSaturationPressure, RowT(T - 0.1)).p)
+                             / 0.2;
+        EXPECT_NEAR(hV - hL, 8.31451 * T * T * slope, 1e-4 * (hV - hL)) << T;
+    }
+}
+
 TEST(ResultSlots, SaturationTemperature) {
     Reported c;
     ExpectSlots(
