@@ -110,4 +110,17 @@ std::string_view LiquidDensitySourceText(const PointRun& run) {
     return run.context.calculation.BensonLiquid ? "nach BENSON-Methode:" : "nach Datenbankgleichung rho(T):";
 }
 
+PhaseVolumes SolvedPhases(PointRun& run) {
+    constexpr double largestRounding = 1e-4; // of the volume
+    PhaseVolumes solved = run.phases;
+    EosPhaseVolumes(run.context.model, run.T, run.p, solved);
+    const PhaseVolumes& shown = run.phases;
+    const bool both = shown.hasL && shown.hasV && shown.vL > 0 && shown.vV > 0;
+    if (!both || !run.context.calculation.GlobalMethod)
+        return solved;
+    const bool lost = solved.failed || !(solved.hasL && solved.hasV)
+                      || std::abs(solved.vL - shown.vL) > largestRounding * shown.vL;
+    return lost ? shown : solved;
+}
+
 } // namespace orva

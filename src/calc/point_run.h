@@ -62,6 +62,10 @@ void RecordPhases(PointRun& run);
 // Liquid and vapour stand at the first and the last of the volume roots.
 void TakeSaturationRoots(PointRun& run);
 
+// Phases and volumes of the cubic solved at T, p. Of a cold liquid rounding hides the volume there, while the
+// search for the saturation has found it: then the phases of the run stay.
+PhaseVolumes SolvedPhases(PointRun& run);
+
 // Density of the liquid by the partial method: the rectilinear diameter through the reference point, given
 // the density of the vapour, or the database function. 0 where there is none.
 double PartialLiquidDensity(PointRun& run);

@@ -177,8 +177,7 @@ bool Extends(const PointRun& run) {
 void AppendExtendedBlocks(PointRun& run) {
     if (!Extends(run))
         return;
-    PhaseVolumes phases = run.phases;
-    EosPhaseVolumes(run.context.model, run.T, run.p, phases);
+    const PhaseVolumes phases = SolvedPhases(run);
     BothPhases tables;
     bool good = !phases.failed;
     if (good && phases.hasL)

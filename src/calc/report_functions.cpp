@@ -2,7 +2,6 @@
 #include "calc/report_functions.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <iterator>
 
@@ -140,18 +139,6 @@ bool ListsFunctions(int kind) {
     return (kind >= kindTRho && kind <= kindSaturationTemperature) || kind == kindVesselGlobal;
 }
 
-// Of a cold liquid rounding hides the volume from the cubic at p, while the search for the saturation, whose
-// phases are shown, has found it.
-bool LosesLiquid(const PointRun& run, const PhaseVolumes& shown) {
-    constexpr double largestRounding = 1e-4; // of the volume
-    const bool both = shown.hasL && shown.hasV && shown.vL > 0 && shown.vV > 0;
-    if (!both || !run.context.calculation.GlobalMethod)
-        return false;
-    const PhaseVolumes& solved = run.phases;
-    return solved.failed || !(solved.hasL && solved.hasV)
-           || std::abs(solved.vL - shown.vL) > largestRounding * shown.vL;
-}
-
 } // namespace
 
 void AppendGlobalList(PointRun& run) {
@@ -207,9 +194,7 @@ void AppendFunctionList(PointRun& run) {
     AppendLine(run, rule);
     AppendLine(run, "                    thermodynamische Funktionen");
     AppendLine(run, rule);
-    EosPhaseVolumes(run.context.model, run.T, run.p, run.phases);
-    if (LosesLiquid(run, shown))
-        run.phases = shown;
+    run.phases = SolvedPhases(run);
     if (run.phases.failed) {
         ReportFailure(run, FailureNumber());
     } else if (FillFunctions(run)) {

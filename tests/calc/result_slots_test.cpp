@@ -113,15 +113,18 @@ TEST(ResultSlots, SaturationPressureWithItsFunctionList) {
 }
 
 // Below about 1e-3 kPa the cubic solved at the pressure loses the liquid volume to rounding.
-TEST(ResultSlots, TheFunctionListOfAColdLiquidHasBothPhases) {
+TEST(ResultSlots, ListsAndBlocksOfAColdLiquidHaveBothPhases) {
     Reported c;
     c.state.FunctionList = true;
+    c.state.ExtendedLevel = 4;
     for (const double T : {115.0, 120.0, 130.0}) {
         const PointResult r = c.Run(kindSaturationPressure, RowT(T));
         EXPECT_LT(r.p, 1e-3);
         const double hV = r.results[slotVolumeV + 1], hL = r.results[slotVolumeL + 1];
         const double gV = r.results[slotVolumeV + 3], gL = r.results[slotVolumeL + 3];
         EXPECT_NEAR(gL, gV, 1e-6 * std::abs(gV)) << T;
+        EXPECT_NEAR(r.record.coeff[0][0], r.record.coeff[1][0], 1e-4) << T; // ln phi
+        EXPECT_LT(r.record.deriv[0][0], 100 * r.record.deriv[1][0]) << T;   // dp/dv, steep for a liquid
         const double slope = std::log(c.Run(kindSaturationPressure, RowT(T + 0.1)).p
                                       / c.Run(kindSaturationPressure, RowT(T - 0.1)).p)
                              / 0.2;
