@@ -16,6 +16,7 @@ namespace orva {
 namespace {
 
 constexpr int settlingTime = 300; // ms
+constexpr QPoint stepIn(48, 72);  // from the corner of the owner, below its menu
 
 bool HasPlace(const QWidget& window) {
     return window.isWindow()
@@ -33,6 +34,13 @@ QString SizedKey(const QWidget& window) {
 
 QRect PlaceOf(const QWidget& window) {
     return {window.pos(), window.isMaximized() ? window.normalGeometry().size() : window.size()};
+}
+
+// Dialogs centre themselves over their owner. Any other window would come wherever the desktop has room, far
+// from its owner, and what opens beside it could not know where that is.
+bool NeedsPlace(const QWidget& window) {
+    return !window.inherits("QDialog") && window.parentWidget() != nullptr
+           && !window.testAttribute(Qt::WA_Moved);
 }
 
 // With its frame, as far as that is known. A window whose place nobody settled gets it from the desktop; only
@@ -82,6 +90,8 @@ void WindowPlaces::Restore(QWidget& window) {
         const bool restored = window.restoreGeometry(settings.value(GeometryKey(window)).toByteArray());
         if (restored && !settings.value(SizedKey(window)).toBool())
             window.resize(ownSize);
+        if (!restored && NeedsPlace(window))
+            window.move(window.parentWidget()->window()->frameGeometry().topLeft() + stepIn);
     }
     FitToScreen(window);
     shown.insert(&window, PlaceOf(window));

@@ -2,6 +2,7 @@
 // Start and end of the program, the places of its windows, and the road by keys alone.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "platform/program_number.h"
@@ -153,6 +154,20 @@ TEST_F(ShellHabits, AWindowThatWasLeftAloneIsNotWrittenDown) {
     QTest::qWait(400); // the desktop has placed it by then
     form->close();
     EXPECT_FALSE(QSettings().contains("windows/frmStoffWahl/geometry"));
+}
+
+TEST_F(ShellHabits, TheResultOpensAtTheCornerOfItsOwnerAndKeepsItsPlace) {
+    AcceptModels("n-Butan");
+    window->move(3, 5);
+    StartTP();
+    auto* form = Find<frmCalcOut>();
+    ASSERT_NE(form, nullptr);
+    const QRect area = form->screen()->availableGeometry();
+    const QPoint corner = window->frameGeometry().topLeft() + QPoint(48, 72);
+    EXPECT_TRUE(form->testAttribute(Qt::WA_Moved));
+    constexpr int frame = 8;
+    EXPECT_NEAR(form->x(), std::clamp(corner.x(), area.left(), area.right() - form->width()), frame);
+    EXPECT_NEAR(form->y(), std::clamp(corner.y(), area.top(), area.bottom() - form->height()), frame);
 }
 
 TEST_F(ShellHabits, NoWindowOpensOffTheScreenOrLargerThanIt) {

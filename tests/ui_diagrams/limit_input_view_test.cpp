@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/diagrams/limit_input_view.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -51,6 +53,20 @@ TEST(LimitInputWindow, EnterDrawsAnIsobarOverItsTemperatures) {
     QTest::keyClick(b.Field("txtTo"), Qt::Key_Return);
     ASSERT_EQ(b.window.Chart().curveCount, 1);
     EXPECT_EQ(b.window.Chart().Series(1).ZKind(), zTemperature);
+}
+
+TEST(LimitInputWindow, WhoComesBackToItStaysInTheField) {
+    Box b(22);
+    b.box->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(b.box.get()));
+    QLineEdit* low = b.Field("txtFrom");
+    low->setFocus();
+    low->deselect();
+    QEvent activated(QEvent::ActivationChange);
+    QApplication::sendEvent(b.box.get(), &activated);
+    EXPECT_EQ(b.box->focusWidget(), low);
+    EXPECT_EQ(low->selectedText(), low->text());
+    EXPECT_FALSE(low->text().isEmpty());
 }
 
 TEST(LimitInputWindow, RefusesEmptyFields) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/diagrams/value_input_view.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -63,6 +65,16 @@ TEST(ValueInputWindow, EnterDrawsAndTheWindowStaysForTheNextValue) {
     QTest::keyClick(b.value, Qt::Key_Enter);
     ASSERT_EQ(b.window.Chart().curveCount, 2);
     EXPECT_EQ(b.window.Chart().Series(2).legend, "(2) 170.5 K ");
+}
+
+TEST(ValueInputWindow, WhoComesBackToItTypesANewValue) {
+    Box b;
+    b.box->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(b.box.get()));
+    b.value->deselect();
+    QEvent activated(QEvent::ActivationChange);
+    QApplication::sendEvent(b.box.get(), &activated);
+    EXPECT_EQ(b.value->selectedText(), "190.564");
 }
 
 TEST(ValueInputWindow, OkKeepsTheValueAndCloses) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/diagrams/limit_input_view.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -73,6 +74,15 @@ void frmInputProzessLinien::Refresh() {
 void frmInputProzessLinien::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     Refresh();
+}
+
+// The desktop may hand the keyboard to another window in between, and the selection is lost with it.
+void frmInputProzessLinien::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    if (auto* field = qobject_cast<QLineEdit*>(focusWidget()))
+        field->selectAll();
 }
 
 void frmInputProzessLinien::Draw() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/diagrams/value_input_view.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -83,6 +84,14 @@ void frmTpVSInputBox::Refresh() {
 void frmTpVSInputBox::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     Refresh();
+}
+
+// The desktop may hand the keyboard to another window in between, and the selection is lost with it: whoever
+// types next means a new value.
+void frmTpVSInputBox::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        SelectValue();
 }
 
 void frmTpVSInputBox::Draw() {
