@@ -31,8 +31,9 @@ CaloricResult FullState(SubstanceModel& model, double T, double p, const Ambient
     return CaloricState(model, T, p, phases.hasV ? phases.vV : phases.vL, ambient);
 }
 
-void FullStateOf(benchmark::State& state, Point at) {
+void FullStateOf(benchmark::State& state, Point at, int cpModel) {
     SubstanceModel model = Model();
+    model.selection.cpModel = static_cast<std::int16_t>(cpModel);
     const AmbientState ambient = EvaluateAmbientState(model);
     for (auto _ : state)
         benchmark::DoNotOptimize(FullState(model, at.T, at.p, ambient));
@@ -119,9 +120,10 @@ void SaturationLineOf300Points(benchmark::State& state) {
     }
 }
 
-BENCHMARK_CAPTURE(FullStateOf, gas, points[0]);
-BENCHMARK_CAPTURE(FullStateOf, liquid, points[1]);
-BENCHMARK_CAPTURE(FullStateOf, supercritical, points[2]);
+BENCHMARK_CAPTURE(FullStateOf, gas, points[0], 1);
+BENCHMARK_CAPTURE(FullStateOf, liquid, points[1], 1);
+BENCHMARK_CAPTURE(FullStateOf, supercritical, points[2], 1);
+BENCHMARK_CAPTURE(FullStateOf, gas_sinh_cosh, points[0], 2);
 BENCHMARK_CAPTURE(FloorFullStateOf, gas, points[0]);
 BENCHMARK_CAPTURE(FloorFullStateOf, liquid, points[1]);
 BENCHMARK_CAPTURE(FloorFullStateOf, supercritical, points[2]);

@@ -92,6 +92,7 @@ AmbientState EvaluateAmbientState(SubstanceModel& model) {
         IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p);
     PhaseVolumes phases;
     EosPhaseVolumes(model, T, p, phases);
+    ambient.reference = ReferenceTerms(model.substance, model.reference, model.selection.cpModel);
     ambient.hasV = phases.hasV;
     ambient.failed = ideal.failed || phases.failed || !(phases.hasL || phases.hasV);
     if (ambient.failed)
@@ -110,7 +111,7 @@ AmbientState EvaluateAmbientState(SubstanceModel& model) {
 CaloricResult CaloricState(SubstanceModel& model, double T, double p, double v, const AmbientState& ambient) {
     CaloricResult result;
     const IdealGasState ideal =
-        IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p);
+        IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p, ambient.reference);
     result.failed = ideal.failed || ambient.failed;
     if (result.failed)
         return result;
@@ -139,7 +140,7 @@ SaturationCaloricResult SaturationCaloric(SubstanceModel& model, double T, const
     if (!FillVolumes(model, T, saturation, result))
         return result;
     const IdealGasState ideal =
-        IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p);
+        IdealGasFunctions(model.substance, model.reference, model.selection.cpModel, T, p, ambient.reference);
     if (ideal.failed)
         return result;
     ResidualState residual;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "state/substance_model.h"
+#include "thermo/ideal_gas_functions.h"
 #include "thermo/residual_functions.h"
 
 namespace orva {
@@ -25,6 +26,7 @@ struct AmbientPhase {
 // and reference point alone, so that a whole curve needs it once.
 struct AmbientState {
     AmbientPhase liquid, vapour;
+    IdealGasTerms reference; // of the reference temperature
     bool hasV = false;
     bool failed = false;
     // Vapour where it exists.

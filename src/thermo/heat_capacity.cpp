@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "thermo/sinh_cosh.h"
+
 namespace orva {
 
 namespace {
@@ -17,19 +19,6 @@ double Polynomial(const HeatCapacityPolynomial& x, double T) {
     return x.C0 + x.C1 * T + x.C2 * T * T + x.C3 * T * T * T + x.C4 * T * T * T * T;
 }
 
-double SinhCosh(const SinhCoshHeatCapacity& q, double T) {
-    const double u = q.q2 / T;
-    const double w = q.q4 / T;
-    const double sinhU = (std::exp(u) - std::exp(-u)) * 0.5;
-    const double coshW = (std::exp(w) + std::exp(-w)) * 0.5;
-    const double a = u / sinhU;
-    const double b = w / coshW;
-    // An overflow of sinh or cosh is a failure, not a vanishing term.
-    if (!std::isfinite(sinhU) || !std::isfinite(coshW))
-        return std::nan("");
-    return q.q0 + q.q1 * (a * a) + q.q3 * (b * b);
-}
-
 float FiniteSingle(double cp) {
     const auto single = static_cast<float>(cp);
     return std::isfinite(single) ? single : 0.0F;
@@ -42,7 +31,7 @@ HeatCapacityResult IdealGasCp(const SubstanceData& substance, double T, int cpMo
     if (cpModel == 1)
         cp = Polynomial(substance.cpPolynomial, T);
     else if (cpModel == 2)
-        cp = SinhCosh(substance.cpSinhCosh, T);
+        cp = SinhCoshFunctions(substance.cpSinhCosh, T).HeatCapacity(substance.cpSinhCosh);
     if (!std::isfinite(cp))
         return {0, true};
     return {cp, false};

@@ -5,6 +5,7 @@
 
 #include "state/constants.h"
 #include "thermo/heat_capacity.h"
+#include "thermo/sinh_cosh.h"
 
 namespace orva {
 
@@ -31,41 +32,19 @@ Integrals PolynomialIntegrals(const HeatCapacityPolynomial& x, double T, double 
                 + (x.C4 / 4.0) * (T4 - T04)};
 }
 
-// sinh, cosh and their logarithms of one argument.
-struct Hyperbolic {
-    double sinh, cosh;
-    explicit Hyperbolic(double x) {
-        const double e = std::exp(x);
-        const double eInverse = std::exp(-x);
-        sinh = (e - eInverse) * 0.5;
-        cosh = (e + eInverse) * 0.5;
-    }
-};
-
-// x coth x - ln sinh x.
-double CothTerm(double x, const Hyperbolic& f) {
-    return x * (f.cosh / f.sinh) - std::log(f.sinh);
+// The terms of the integrals at one temperature: coth u, tanh w, u coth u - ln sinh u, w tanh w - ln cosh w.
+IdealGasTerms TermsAt(const SinhCoshFunctions& f, double T) {
+    const double coth = f.coshU / f.sinhU;
+    const double tanh = f.sinhW / f.coshW;
+    return {T, std::log(T), coth, tanh, f.u * coth - std::log(f.sinhU), f.w * tanh - std::log(f.coshW)};
 }
 
-// x tanh x - ln cosh x.
-double TanhTerm(double x, const Hyperbolic& f) {
-    return x * (f.sinh / f.cosh) - std::log(f.cosh);
-}
-
-Integrals SinhCoshIntegrals(const SinhCoshHeatCapacity& q, double T, double T0) {
-    const double u = q.q2 / T;
-    const double w = q.q4 / T;
-    const double u0 = q.q2 / T0;
-    const double w0 = q.q4 / T0;
-    const Hyperbolic fu(u);
-    const Hyperbolic fw(w);
-    const Hyperbolic fu0(u0);
-    const Hyperbolic fw0(w0);
-    const double coth = fu.cosh / fu.sinh - fu0.cosh / fu0.sinh;
-    const double tanh = fw.sinh / fw.cosh - fw0.sinh / fw0.cosh;
-    return {q.q0 * (T - T0) + q.q1 * q.q2 * coth - q.q3 * q.q4 * tanh,
-            q.q0 * (std::log(T) - std::log(T0)) + q.q1 * (CothTerm(u, fu) - CothTerm(u0, fu0))
-                - q.q3 * (TanhTerm(w, fw) - TanhTerm(w0, fw0))};
+Integrals SinhCoshIntegrals(const SinhCoshHeatCapacity& q, const IdealGasTerms& at,
+                            const IdealGasTerms& from) {
+    return {q.q0 * (at.T - from.T) + q.q1 * q.q2 * (at.coth - from.coth)
+                - q.q3 * q.q4 * (at.tanh - from.tanh),
+            q.q0 * (at.lnT - from.lnT) + q.q1 * (at.cothTerm - from.cothTerm)
+                - q.q3 * (at.tanhTerm - from.tanhTerm)};
 }
 
 } // namespace
@@ -87,27 +66,43 @@ ReferenceGas ReferenceGasState(const SubstanceData& substance, ReferencePoint& r
     return gas;
 }
 
-IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel,
-                                double T, double p) {
-    const ReferenceGas gas = ReferenceGasState(substance, reference, p);
-    const HeatCapacityResult heat = IdealGasCp(substance, T, cpModel);
-    if (heat.failed)
-        return {0, 0, 0, true};
-    IdealGasState state{gas.h, gas.s, heat.cp, false};
+IdealGasTerms ReferenceTerms(const SubstanceData& substance, const ReferencePoint& reference, int cpModel) {
     const double T0 = reference.T0;
+    return cpModel == 2 ? TermsAt({substance.cpSinhCosh, T0}, T0) : IdealGasTerms();
+}
+
+IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel,
+                                double T, double p, const IdealGasTerms& known) {
+    const ReferenceGas gas = ReferenceGasState(substance, reference, p);
+    const double T0 = reference.T0;
+    double cp = 0;
     Integrals integrals{0, 0};
-    if (cpModel == 1) {
-        integrals = PolynomialIntegrals(substance.cpPolynomial, T, T0);
-    } else if (cpModel == 2) {
+    if (cpModel == 2) {
         if (T <= lowestSinhCoshTemperature)
             return {0, 0, 0, true};
-        integrals = SinhCoshIntegrals(substance.cpSinhCosh, T, T0);
+        const SinhCoshHeatCapacity& q = substance.cpSinhCosh;
+        const SinhCoshFunctions functions(q, T);
+        cp = functions.HeatCapacity(q);
+        integrals = SinhCoshIntegrals(q, TermsAt(functions, T),
+                                      known.T == T0 ? known : ReferenceTerms(substance, reference, cpModel));
+    } else {
+        const HeatCapacityResult heat = IdealGasCp(substance, T, cpModel);
+        if (heat.failed)
+            return {0, 0, 0, true};
+        cp = heat.cp;
+        if (cpModel == 1)
+            integrals = PolynomialIntegrals(substance.cpPolynomial, T, T0);
     }
-    state.h += integrals.h + reference.h0;
-    state.s += integrals.s + reference.s0;
-    if (!std::isfinite(state.h) || !std::isfinite(state.s))
+    const double h = gas.h + (integrals.h + reference.h0);
+    const double s = gas.s + (integrals.s + reference.s0);
+    if (!std::isfinite(h) || !std::isfinite(s) || !std::isfinite(cp))
         return {0, 0, 0, true};
-    return state;
+    return {h, s, cp, false};
+}
+
+IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel,
+                                double T, double p) {
+    return IdealGasFunctions(substance, reference, cpModel, T, p, {});
 }
 
 } // namespace orva

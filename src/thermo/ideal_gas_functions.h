@@ -20,9 +20,22 @@ struct IdealGasState {
     bool failed = false;
 };
 
+// What the integrals of the sinh/cosh form take from one end. That of the reference temperature depends on
+// the substance and the reference point alone, so that a whole curve needs it once.
+struct IdealGasTerms {
+    double T = 0; // K, 0 for none
+    double lnT = 0, coth = 0, tanh = 0, cothTerm = 0, tanhTerm = 0;
+};
+IdealGasTerms ReferenceTerms(const SubstanceData& substance, const ReferencePoint& reference, int cpModel);
+
 // Functions of the ideal gas at T, p by the heat-capacity model in force. The polynomial is integrated with
 // C4 as the coefficient of T^4 whatever its form, kept on purpose.
 IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel,
                                 double T, double p);
+
+// The same to the last bit where the terms of the reference point are known. Terms of another T0 are not
+// used.
+IdealGasState IdealGasFunctions(const SubstanceData& substance, ReferencePoint& reference, int cpModel,
+                                double T, double p, const IdealGasTerms& known);
 
 } // namespace orva

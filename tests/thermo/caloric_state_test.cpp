@@ -3,6 +3,7 @@
 
 #include "caloric_fixture.h"
 #include "thermo/caloric_state.h"
+#include "thermo/heat_capacity.h"
 #include "thermo/ideal_gas_functions.h"
 #include "thermo/saturation.h"
 
@@ -213,6 +214,40 @@ TEST(IdealGasFunctions, IntegrateTheHeatCapacity) {
         }
         EXPECT_NEAR(IdealGasFunctions(s, reference, cpModel, 298.15F, 101.325F).h, 0, 1e-9);
         EXPECT_NEAR(IdealGasFunctions(s, reference, cpModel, 298.15F, 101.325F).s, 0, 1e-9);
+    }
+}
+
+// The formulas one after the other, every function of T and of T0 by itself.
+TEST(IdealGasFunctions, KnownTermsOfTheReferencePointChangeNoBit) {
+    const SubstanceData s = Butane();
+    const SinhCoshHeatCapacity& q = s.cpSinhCosh;
+    ReferencePoint reference;
+    const double T0 = reference.T0;
+    const auto sinh = [](double x) { return (std::exp(x) - std::exp(-x)) * 0.5; };
+    const auto cosh = [](double x) { return (std::exp(x) + std::exp(-x)) * 0.5; };
+    const auto coth = [&](double T) { return cosh(q.q2 / T) / sinh(q.q2 / T); };
+    const auto tanh = [&](double T) { return sinh(q.q4 / T) / cosh(q.q4 / T); };
+    const auto cothTerm = [&](double T) { return q.q2 / T * coth(T) - std::log(sinh(q.q2 / T)); };
+    const auto tanhTerm = [&](double T) { return q.q4 / T * tanh(T) - std::log(cosh(q.q4 / T)); };
+    const IdealGasTerms known = ReferenceTerms(s, reference, 2);
+    ReferencePoint other = reference;
+    other.T0 = 400;
+    const IdealGasTerms foreign = ReferenceTerms(s, other, 2);
+    for (const double T : {150.0, 298.15, 333.3, 1200.0}) {
+        const double h =
+            q.q0 * (T - T0) + q.q1 * q.q2 * (coth(T) - coth(T0)) - q.q3 * q.q4 * (tanh(T) - tanh(T0));
+        const double entropy = q.q0 * (std::log(T) - std::log(T0)) + q.q1 * (cothTerm(T) - cothTerm(T0))
+                               - q.q3 * (tanhTerm(T) - tanhTerm(T0));
+        const IdealGasState plain = IdealGasFunctions(s, reference, 2, T, reference.p0);
+        EXPECT_EQ(plain.h, 0 + (h + reference.h0)) << T;
+        EXPECT_EQ(plain.s, 0 + (entropy + reference.s0)) << T;
+        EXPECT_EQ(plain.cp, IdealGasCp(s, T, 2).cp) << T;
+        for (const IdealGasTerms& terms : {known, foreign}) {
+            const IdealGasState quick = IdealGasFunctions(s, reference, 2, T, reference.p0, terms);
+            EXPECT_EQ(quick.h, plain.h) << T;
+            EXPECT_EQ(quick.s, plain.s) << T;
+            EXPECT_EQ(quick.cp, plain.cp) << T;
+        }
     }
 }
 
