@@ -17,26 +17,22 @@ constexpr double smallestStep = 1e-12;
 constexpr double refinement = -0.1;
 constexpr double firstSlope = 0.1; // above the co-volume the second derivative is positive
 
-double Curvature(SubstanceModel& model, const ParameterSlopes& slopes, double T, double v) {
-    return CubicDerivatives(model.eos, slopes, T, v).d2pdv2;
-}
-
 // Marches until the curvature changes sign, then turns and refines. False when the steps run out.
-bool March(SubstanceModel& model, const ParameterSlopes& slopes, double T, InflectionPoint& point,
-           double previous) {
+bool March(SubstanceModel& model, double T, InflectionPoint& point, double previous) {
     double step = marchStep;
     for (int n = 1; n <= marchSteps; ++n) {
         point.v += step;
-        const PressureResult pressure = EosPressure(model, T, point.v);
-        point.p = pressure.p;
-        point.slope = Curvature(model, slopes, T, point.v);
+        point.slope = CubicCurvature(model.eos, T, point.v);
         const double r = previous / point.slope;
         previous = point.slope;
         if (r > 0)
             continue;
         step *= refinement;
-        if (!(std::abs(step) >= smallestStep))
-            return !pressure.failed && std::isfinite(point.p);
+        if (std::abs(step) >= smallestStep)
+            continue;
+        const PressureResult pressure = EosPressure(model, T, point.v);
+        point.p = pressure.p;
+        return !pressure.failed && std::isfinite(point.p);
     }
     return false;
 }
@@ -81,19 +77,18 @@ SpinodalSearch FindSpinodal(SubstanceModel& model, double T) {
         return search;
     }
     SetEosCoefficients(model, T);
-    const ParameterSlopes slopes = ParameterDerivatives(model, T);
     InflectionPoint& first = search.points[0];
     first.v = model.eos.B;
-    if (!March(model, slopes, T, first, firstSlope)) {
+    if (!March(model, T, first, firstSlope)) {
         first = {};
         search.failed = true;
         return search;
     }
     InflectionPoint& second = search.points[1];
     second.v = first.v + 1e-6;
-    const double previous = Curvature(model, slopes, T, second.v);
+    const double previous = CubicCurvature(model.eos, T, second.v);
     second.v -= marchStep;
-    if (!March(model, slopes, T, second, previous))
+    if (!March(model, T, second, previous))
         second = {};
     return search;
 }

@@ -30,6 +30,9 @@ struct ThermalDerivatives {
 inline ThermalDerivatives CubicDerivatives(const EosParameters& eos, const ParameterSlopes& s, double T,
                                            double v);
 
+// d2p/dv2 of the cubic equation by itself, to the same bit.
+inline double CubicCurvature(const EosParameters& eos, double T, double v);
+
 // Derivatives of v = R T / p + B.
 ThermalDerivatives VirialVolumeDerivatives(const VirialSlopes& s, double T, double p, double v);
 
@@ -42,6 +45,14 @@ MechanicalCoefficientValues MechanicalCoefficients(double p, double v, const The
 namespace thermal {
 
 inline constexpr double poleWidth = 1e-11; // m^3/kmol
+
+inline double Curvature(const EosParameters& eos, double T, double v, double u3, double W3) {
+    const double C = eos.C;
+    const double D = eos.D;
+    const Pair terms =
+        Pair{gasConstant * T, eos.A * ((C + D + v) * 3 * v - C * D + (C + D) * (C + D))} / Pair{u3, W3};
+    return 2 * (terms[0] - terms[1]);
+}
 
 inline void FillSecond(const EosParameters& eos, const ParameterSlopes& s, double T, double v,
                        ThermalDerivatives& d) {
@@ -70,14 +81,21 @@ inline void FillSecond(const EosParameters& eos, const ParameterSlopes& s, doubl
     const Pair softer = drift * 2 * A * Pair{Y, S} / W3;
     const double P1 = R * (single[0] - hard[0]) - single[1] + soft[0] - softer[0];
     const double P2 = hard[1] + soft[1] - softer[1];
-    const Pair curvature = Pair{R * T, A * ((C + D + v) * 3 * v - C * D + (C + D) * (C + D))} / Pair{u3, W3};
-    d.d2pdv2 = 2 * (curvature[0] - curvature[1]);
+    d.d2pdv2 = Curvature(eos, T, v, u3, W3);
     const Pair along = Pair{-(P2 * vT + P1), P1} / Pair{d.dpdv, vT};
     d.d2vdT2 = along[0];
     d.d2Tdv2 = -(along[1] + P2) / d.dpdv / vT;
 }
 
 } // namespace thermal
+
+inline double CubicCurvature(const EosParameters& eos, double T, double v) {
+    const double u = v - eos.B;
+    if (std::abs(u) < thermal::poleWidth)
+        return 0;
+    const double W = (v + eos.C) * (v + eos.D);
+    return thermal::Curvature(eos, T, v, u * u * u, W * W * W);
+}
 
 inline ThermalDerivatives CubicDerivatives(const EosParameters& eos, const ParameterSlopes& s, double T,
                                            double v) {
