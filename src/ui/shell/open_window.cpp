@@ -46,9 +46,9 @@ bool IsEnter(const QKeyEvent& key) {
 
 frmCmnDlg::frmCmnDlg(OpenWithPreview openWithPreview, QWidget* parent)
     : QDialog(parent), choice(std::move(openWithPreview)), pathLabel(new QLabel(this)),
-      Label4(new QLabel(QStringLiteral("Datenbank:"), this)), Label5(new QLabel(this)),
-      dirOpenList(AddList("dirOpenList", "Ordner")), filOpenList(AddList("filOpenList", "Dateien")),
-      txtOpenFile(Field("txtOpenFile", "Dateiname", this)), Text1(Field("Text1", "Stoff", this)),
+      Text1(new QLabel(this)), Label4(new QLabel(QStringLiteral("Datenbank:"), this)),
+      Label5(new QLabel(this)), dirOpenList(AddList("dirOpenList", "Ordner")),
+      filOpenList(AddList("filOpenList", "Dateien")), txtOpenFile(Field("txtOpenFile", "Dateiname", this)),
       Text2(Field("Text2", "Dateikommentar", this)),
       cmdReturn(AddButton("cmdReturn", " über&geordneter Ordner ")),
       cmdOpenOK(AddButton("cmdOpenOK", "&OK, Laden")),
@@ -116,14 +116,16 @@ QLayout* frmCmnDlg::FileRow() {
 QGroupBox* frmCmnDlg::PreviewFrame() {
     auto* frame = new QGroupBox(ToQt(choice.frameTitle), this);
     frame->setObjectName(QStringLiteral("fraViewStoff"));
+    Text1->setObjectName(QStringLiteral("Text1"));
     Label4->setObjectName(QStringLiteral("Label4"));
     Label5->setObjectName(QStringLiteral("Label5"));
-    Label5->setTextFormat(Qt::PlainText);
-    Label5->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Label5->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name widens nothing
-    Text1->setReadOnly(true);
+    for (QLabel* shown : {Text1, Label5}) {
+        shown->setTextFormat(Qt::PlainText);
+        shown->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        shown->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name widens nothing
+    }
     auto* grid = new QGridLayout(frame);
-    grid->addWidget(Caption("&Stoff:", Text1, frame), 0, 0);
+    grid->addWidget(new QLabel(QStringLiteral("Stoff:"), frame), 0, 0);
     grid->addWidget(Text1, 0, 1);
     grid->addWidget(Caption("Datei&kommentar (editierbar):", Text2, frame), 1, 0);
     grid->addWidget(Text2, 1, 1);
@@ -173,7 +175,6 @@ void frmCmnDlg::ShowChoice() {
     if (txtOpenFile->text() != ToQt(choice.txtOpenFile))
         txtOpenFile->setText(ToQt(choice.txtOpenFile));
     Text1->setText(ToQt(choice.Text1));
-    Text1->setCursorPosition(0);
     Text2->setText(ToQt(choice.Text2));
     Text2->setEnabled(choice.selectedFile >= 0);
     Label5->setText(ToQt(choice.Label5));

@@ -43,9 +43,9 @@ private:
     void GoUp();
 
     OpenWithPreview choice;
-    QLabel *pathLabel, *Label4, *Label5;
+    QLabel *pathLabel, *Text1, *Label4, *Label5;
     QListWidget *dirOpenList, *filOpenList;
-    QLineEdit *txtOpenFile, *Text1, *Text2;
+    QLineEdit *txtOpenFile, *Text2;
     QPushButton *cmdReturn, *cmdOpenOK, *cmdOpenCancel;
 };
 
