@@ -193,22 +193,23 @@ void OpenWithPreview::EditComment(std::string_view text) {
         session.state.projectComment = text;
 }
 
-void OpenWithPreview::DeleteSelected() {
+bool OpenWithPreview::DeleteSelected() {
     if (selectedFile < 0)
-        return;
+        return false;
     const std::string name = files[static_cast<std::size_t>(selectedFile)];
     Question question;
     question.title = "Löschen von Dateien bestätigen";
     question.text = "File " + name + " wirklich löschen?";
     question.yesIsDefault = false;
     if (!session.dialogs.Ask(question))
-        return;
+        return false;
     std::error_code error;
     if (!fs::remove(PathOf(PathOfFile(name)), error) || error)
         session.dialogs.Show({"Ausführung nicht möglich", "Die Datei kann nicht gelöscht werden:\n" + name,
                               MessageIcon::Exclamation});
     txtOpenFile.clear();
     ListFolder();
+    return true;
 }
 
 void OpenWithPreview::cmdReturn() {

@@ -53,8 +53,8 @@ public:
     void TypeFile(std::string_view text);
     // The comment goes into the session, to be written with the next save.
     void EditComment(std::string_view text);
-    // Deletes the picked file from the disk if the user agrees.
-    void DeleteSelected();
+    // Deletes the picked file from the disk if the user agrees. True if the list is a new one.
+    bool DeleteSelected();
     void cmdReturn();
     void OpenFolder(int row);
 

@@ -159,18 +159,18 @@ TEST_F(Preview, DeletesAfterAYesOnly) {
     Write("a.QCF", ButaneProject());
     Write("b.QCF", ButaneProject());
     OpenWithPreview choice = Open();
-    choice.DeleteSelected(); // nothing is picked
+    EXPECT_FALSE(choice.DeleteSelected()); // nothing is picked
     EXPECT_TRUE(dialogs.asked.empty());
     choice.SelectFile(1);
     dialogs.answers = {false, true};
-    choice.DeleteSelected();
+    EXPECT_FALSE(choice.DeleteSelected());
     ASSERT_EQ(dialogs.asked.size(), 1U);
     EXPECT_EQ(dialogs.asked[0].title, "Löschen von Dateien bestätigen");
     EXPECT_EQ(dialogs.asked[0].text, "File b.QCF wirklich löschen?");
     EXPECT_FALSE(dialogs.asked[0].yesIsDefault);
     EXPECT_TRUE(FileExists(Path("b.QCF")));
     EXPECT_EQ(choice.selectedFile, 1);
-    choice.DeleteSelected();
+    EXPECT_TRUE(choice.DeleteSelected());
     EXPECT_FALSE(FileExists(Path("b.QCF")));
     EXPECT_THAT(choice.files, ElementsAre("a.QCF"));
     EXPECT_EQ(choice.selectedFile, -1);
@@ -185,7 +185,7 @@ TEST_F(Preview, SaysThatAFileCannotBeDeleted) {
     choice.SelectFile(0);
     std::filesystem::remove(Path("a.QCF"));
     dialogs.answers = {true};
-    choice.DeleteSelected();
+    EXPECT_TRUE(choice.DeleteSelected());
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(dialogs.shown[0].text, "Die Datei kann nicht gelöscht werden:\na.QCF");
     EXPECT_TRUE(choice.files.empty());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/project_fixture.h"
 
+#include <cmath>
+
 #include "shell/exit.h"
 
 namespace orva::test {
@@ -233,6 +235,33 @@ TEST_F(Project, WarnsOfMissingCriticalDataAndGoesOn) {
     EXPECT_EQ(dialogs.shown[0].title, "WARNUNG");
     EXPECT_TRUE(dialogs.shown[0].text.starts_with("T(cr) und/oder p(cr) in der Datenbank nicht verfügbar."));
     EXPECT_EQ(session.options.curvePoints, 450);
+}
+
+// The window of the models opens for such a substance, and the ideal gas needs no critical data.
+TEST_F(Project, WithoutCriticalDataNoNumberGoesAstray) {
+    ProjectFile project = ButaneProject();
+    project.cas = "50-00-0";
+    project.eos = eosIdealGas;
+    Write("OrvaLastSession.QCF", project);
+    ASSERT_TRUE(LoadLastSession(session));
+    EXPECT_FALSE(Allowed("mnuModel"));
+    ModelChoice choice = MakeModelChoice(session);
+    choice.Open();
+    ASSERT_TRUE(choice.OKModell(dialogs));
+    AcceptModels(session, choice.Panels());
+    EXPECT_TRUE(std::isfinite(session.ranges.TMax) && std::isfinite(session.ranges.pMax));
+    EXPECT_TRUE(std::isfinite(session.ranges.vMax) && std::isfinite(session.ranges.hMax));
+    session.batch.rows[0].T = 300;
+    session.batch.rows[0].p = 100;
+    CalculationContext context = session.Calculation();
+    for (int kind = kindTRho; kind <= kindSolidDensity; ++kind) {
+        session.batch.rows[0].rhoV = 1.2F;
+        if (!SetCalculation(session, kind, false))
+            continue;
+        const PointResult result = CalcBatch(context, kind, 0, {});
+        for (const double number : result.results)
+            EXPECT_TRUE(std::isfinite(number)) << kind;
+    }
 }
 
 TEST_F(Project, CorrelatesTheEquationOfTheSessionFirst) {

@@ -6,6 +6,7 @@
 #include "text/paths.h"
 #include "text/text_file.h"
 #include "ui/diagrams/diagram_window_view.h"
+#include "ui/qt_dialogs.h"
 #include "ui/shell/open_window.h"
 #include "ui/ui_fixture.h"
 
@@ -292,6 +293,32 @@ TEST_F(OpenForm, TheLastSessionComesBackWithoutAWindow) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dialogs.shown.empty(); }, 2000));
     ClickButton(models, "OKModell");
     EXPECT_TRUE(Command("mnuCalcMain")->isEnabled());
+}
+
+// With real boxes: the one on what is loaded stands over the window of the models, which has the keyboard
+// after it.
+TEST_F(OpenForm, TheBoxStandsOverTheModels) {
+    std::filesystem::copy_file(Path("Projekte/a-Butan.QCF"), Path("OrvaLastSession.QCF"));
+    QtDialogs boxes;
+    Session own(machine, boxes);
+    mdiORVA main(own);
+    main.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+    QString text, owner;
+    QTimer::singleShot(500, &main, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        text = box->text();
+        owner = box->parentWidget() == nullptr ? QString() : box->parentWidget()->objectName();
+        box->buttons().constFirst()->click();
+    });
+    main.findChild<QAction*>("mnuData_LoadLastSession")->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !text.isEmpty(); }, 3000));
+    EXPECT_TRUE(text.startsWith("... Datenbank ORVA.Q05"));
+    EXPECT_EQ(owner, "frmQModell");
+    frmQModell* models = Wait<frmQModell>();
+    ASSERT_NE(models, nullptr);
+    models->close();
 }
 
 TEST_F(OpenForm, WithoutALastSessionNothingHappens) {

@@ -69,6 +69,7 @@ private:
     void ChooseProject(const CommandRow& command);
     void WriteProject(const CommandRow& command);
     void FollowProject(bool loaded);
+    void TellOverTheModels();
     void ShowStatus(const CommandRow& command);
     void ShowEosParameters(const CommandRow& command);
     void Exit(const CommandRow& command);

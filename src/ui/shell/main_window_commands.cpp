@@ -154,8 +154,7 @@ void mdiORVA::WriteProject(const CommandRow&) {
     StartSavingProject(session);
 }
 
-// Browsing alone may have changed the database. What is loaded stands in a box over the window of the models,
-// so the box waits until that window is there.
+// Browsing alone may have changed the database.
 void mdiORVA::FollowProject(bool loaded) {
     CloseStaleDiagram();
     Refresh();
@@ -167,8 +166,20 @@ void mdiORVA::FollowProject(bool loaded) {
     if (diagramDesk != nullptr)
         diagramDesk->Close(); // the project brings units of its own
     ChooseModels({});
-    QMetaObject::invokeMethod(
-        this, [this] { session.dialogs.Show(StatusMessage(session)); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &mdiORVA::TellOverTheModels, Qt::QueuedConnection);
+}
+
+// Windows get the keyboard some time after they are shown; the box belongs to the one that has it.
+void mdiORVA::TellOverTheModels() {
+    QPointer<frmQModell> models;
+    for (QWidget* form : OpenForms())
+        if (auto* found = qobject_cast<frmQModell*>(form))
+            models = found;
+    if (models != nullptr)
+        QApplication::setActiveWindow(models);
+    session.dialogs.Show(StatusMessage(session));
+    if (models != nullptr && models->isVisible())
+        BringToFront(*models);
 }
 
 void mdiORVA::ShowStatus(const CommandRow&) {

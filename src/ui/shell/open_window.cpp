@@ -220,9 +220,7 @@ bool frmCmnDlg::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     if (watched == filOpenList && key.key() == Qt::Key_Delete) {
-        const std::size_t before = choice.files.size();
-        choice.DeleteSelected();
-        if (choice.files.size() != before)
+        if (choice.DeleteSelected())
             ShowFolder();
         return true;
     }
