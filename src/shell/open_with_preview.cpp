@@ -9,6 +9,7 @@
 #include "shell/project_file.h"
 #include "shell/road.h"
 #include "substance/substance_choice.h"
+#include "text/capitals.h"
 #include "text/code_page.h"
 #include "text/columns.h"
 #include "text/lines.h"
@@ -24,14 +25,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view allFiles = "*.*";
 constexpr std::string_view batchPattern = "*.BAQ";
 constexpr std::size_t longestPath = 60; // characters of the label
-
-std::string InCapitals(std::string_view text) {
-    std::string capitals(text);
-    for (char& c : capitals)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return capitals;
-}
 
 // "*.QCF" fits by the end of the name, capitals or not.
 bool Fits(std::string_view name, std::string_view pattern) {

@@ -8,6 +8,7 @@
 #include "shell/road.h"
 #include "substance/substance_choice.h"
 #include "substance/substance_loading.h"
+#include "text/capitals.h"
 #include "text/paths.h"
 #include "text/text_file.h"
 #include "thermo/vapour_pressure.h"
@@ -29,10 +30,7 @@ bool HasFolder(std::string_view path) {
 
 // By the end of the path alone, capitals or not.
 bool IsLastSession(std::string_view path) {
-    const std::string_view end = path.substr(path.size() - std::min(path.size(), lastSessionName.size()));
-    return std::ranges::equal(end, lastSessionName, [](char a, char b) {
-        return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 'a' + 'A') : a) == b;
-    });
+    return InCapitals(path).ends_with(lastSessionName);
 }
 
 ProjectFile ProjectOf(const Session& session) {

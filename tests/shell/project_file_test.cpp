@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <limits>
+#include <algorithm>
+#include <cmath>
 #include <random>
 
 #include "shell/project_file.h"
