@@ -122,6 +122,7 @@ constexpr EnablingRule enablingRules[] = {
 
     {ProjectLoaded, "mnuData_Status", noIndex, Enable, Always},
     {ProjectLoaded, "mnuStoff", noIndex, Enable, Always},
+    {ProjectLoaded, "mnuModel", noIndex, Enable, HasCriticalData},
     {ProjectLoaded, "mnuData_EditStoffdaten", noIndex, Enable, Always},
     {ProjectLoaded, "mnuData_BatchInput", noIndex, Enable, Always},
     {ProjectLoaded, "mnuData_SaveProject", noIndex, Enable, Always},

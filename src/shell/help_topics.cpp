@@ -29,7 +29,12 @@ constexpr HelpTopic topics[] = {
     {126, Start, "main-window.html", "exit", "Beenden", "Leaving the program", "mnuData_Exit"},
     {130, Start, "help-window.html", "", "Die Hilfe benutzen", "Using the help", "helpWindow"},
     {131, Start, "help-window.html", "search", "Suchen", "Searching", "helpSearch helpResults"},
-    {140, Start, "not-yet.html", "", "Was noch nicht enthalten ist", "What is not there yet", "mnu3D mnu3DSub mnuFitting mnuJOBACK mnuData_LoadLastSession mnuData_LoadProject mnuData_SaveProject mnuData_BatchInput mnuData_BatchEdit mnuData_EditStoffdaten mnuData_EditXY mnuCalc(13)"},
+    {140, Start, "not-yet.html", "", "Was noch nicht enthalten ist", "What is not there yet", "mnu3D mnu3DSub mnuFitting mnuJOBACK mnuData_BatchInput mnuData_BatchEdit mnuData_EditStoffdaten mnuData_EditXY mnuCalc(13)"},
+    {150, Start, "projects.html", "", "Projekte und letzte Sitzung", "Projects and the last session", ""},
+    {151, Start, "projects.html", "save", "Ein Projekt speichern", "Saving a project", "mnuData_SaveProject toolbar(7)"},
+    {152, Start, "projects.html", "load", "Ein Projekt laden", "Loading a project", "frmCmnDlg mnuData_LoadProject toolbar(6)"},
+    {153, Start, "projects.html", "last-session", "Die letzte Sitzung", "The last session", "mnuData_LoadLastSession toolbar(4)"},
+    {154, Start, "projects.html", "stored", "Was im Projekt steht", "What a project holds", ""},
 
     {200, Substances, "substance-window.html", "", "Stoffwahl", "Choosing a substance", "frmStoffWahl frmStoffWahl.Hilfe mnuStoff"},
     {201, Substances, "substance-window.html", "list", "Die Stoffliste", "The list of substances", "StoffListe"},

@@ -27,7 +27,8 @@ Session::Session(const Machine& ownMachine, Dialogs& ownDialogs, ProgramRunner* 
     curve.curveT = diagramReferenceTemperature;
     model.reference.kind = 1;
     const std::string folder = PathText(machine.InstallationFolder());
-    state.dirBatch = state.dirDiagram2D = state.dirDiagram3D = state.dirXY = state.dirProject = folder;
+    state.dirBatch = state.dirDiagram2D = state.dirDiagram3D = state.dirXY = folder;
+    state.dirProject = PathText(machine.WritableFolder());
     state.lastSessionFile = PathText(machine.WritableFolder() / lastSessionName);
     Enter(SessionEvent::Start);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+
 #include "calc/calc_batch.h"
 #include "calc/calculation_state.h"
 #include "calc/protocol.h"
@@ -54,6 +56,9 @@ public:
 
     const SubstanceList& List() const { return database.List(); }
     CalculationContext Calculation();
+
+    bool oneTimeProjectHint = true;   // the hint before the first save of a project
+    std::int16_t processLineMode = 1; // parameter mode of process lines
 
     // The four panels of the status bar: substance, equation of state, vapour-pressure equation, contact.
     std::array<std::string, 4> statusPanels;

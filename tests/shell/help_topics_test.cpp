@@ -70,6 +70,7 @@ TEST(HelpTopics, AnswerEveryWindow) {
     for (const auto& [window, page] : {std::pair{"mdiORVA", "main-window.html"},
                                        {"frmPhantom", "main-window.html"},
                                        {"frmTip", "main-window.html"},
+                                       {"frmCmnDlg", "projects.html"},
                                        {"frmStoffWahl", "substance-window.html"},
                                        {"frmQModell", "model-window.html"},
                                        {"frmBParInput", "virial-input.html"},

@@ -15,6 +15,7 @@ public:
     std::vector<Message> shown;
     std::vector<Question> asked;
     std::vector<FileRequest> fileRequests;
+    std::vector<TextRequest> textRequests;
     std::deque<bool> answers;                            // No when the script runs out
     std::deque<std::optional<std::string>> files, texts; // a cancel when the script runs out
 
@@ -30,7 +31,8 @@ public:
         return Next(files, std::optional<std::string>());
     }
 
-    std::optional<std::string> InputText(const TextRequest&) override {
+    std::optional<std::string> InputText(const TextRequest& request) override {
+        textRequests.push_back(request);
         return Next(texts, std::optional<std::string>());
     }
 

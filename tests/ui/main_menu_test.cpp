@@ -39,7 +39,9 @@ struct MainMenu : Workbench {
     }
 };
 
-const QStringList always{"mnuData", "mnuData_OpenBank", "mnuData_Status", "mnuData_Exit"};
+const QStringList load{"mnuData", "mnuData_OpenBank", "mnuData_Status", "mnuData_LoadLastSession",
+                       "mnuData_LoadProject"};
+const QStringList always = load + QStringList{"mnuData_Exit"};
 const QStringList help{"mnuWindow",      "mnuHilfe",     "mnuHilfe_About",
                        "mnuHilfe_Index", "mnuHilfe_Tip", "mnuHilfe_AboutText"};
 
@@ -68,7 +70,8 @@ TEST_F(MainMenu, OffersTheModelsOnceASubstanceIsChosen) {
     frmQModell* form = ChooseSubstance("n-Butan");
     ASSERT_NE(form, nullptr);
     form->close();
-    EXPECT_EQ(Enabled(), (always + QStringList{"mnuStoff", "mnuModel"} + help));
+    EXPECT_EQ(Enabled(),
+              (load + QStringList{"mnuData_SaveProject", "mnuData_Exit", "mnuStoff", "mnuModel"} + help));
 }
 
 TEST_F(MainMenu, OffersCalculationsAndDiagramsOnceTheModelsStand) {

@@ -6,6 +6,7 @@
 #include "ui/dark_palette.h"
 #include "ui/ui_fixture.h"
 
+#include "shell/project.h"
 #include "shell/status_texts.h"
 #include "ui/calc/method_window.h"
 #include "ui/calc/reference_window.h"
@@ -13,6 +14,7 @@
 #include "ui/diagrams/value_input_view.h"
 #include "ui/qt_dialogs.h"
 #include "ui/shell/help_window.h"
+#include "ui/shell/open_window.h"
 #include "ui/shell/options_window.h"
 #include "ui/shell/tip_window.h"
 #include "ui/substance/virial_input_window.h"
@@ -238,6 +240,23 @@ TEST_P(Screenshots, OfTheRoadShowTheirTextsWhole) {
     Shoot(help, "33-helpWindow-Suche");
     help->Open(*FindHelpTopic("report.html", "functions"));
     Shoot(help, "34-helpWindow-Bericht");
+}
+
+TEST_P(Screenshots, OfTheProjectsShowTheirTextsWhole) {
+    AcceptModels("n-Butan");
+    const auto folder = machine.InstallationFolder() / "Projekte";
+    std::filesystem::create_directories(folder / "2025");
+    session->state.dirProject = folder.string();
+    for (const char* name : {"Butan-Lager.QCF", "Flüssiggas.QCF", "Kreisprozess.QCF"}) {
+        dialogs.texts = {"Lagertank 3, Füllung bei 20 °C"};
+        ASSERT_TRUE(SaveProject(*session, name));
+    }
+    Command("mnuData_LoadProject")->trigger();
+    auto* open = Wait<frmCmnDlg>();
+    ASSERT_NE(open, nullptr);
+    In<QListWidget>(open, "filOpenList")->setCurrentRow(1);
+    Shoot(open, "24-frmCmnDlg");
+    open->close();
 }
 
 INSTANTIATE_TEST_SUITE_P(Palette, Screenshots, testing::Values("hell", "dunkel"),

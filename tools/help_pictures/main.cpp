@@ -13,12 +13,16 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPainter>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "shell/project_file.h"
 #include "substance/substance_choice.h"
+#include "text/paths.h"
+#include "text/text_file.h"
 #include "ui/shell/main_window.h"
 #include "ui/substance/substance_list_view.h"
 #include "ui/substance/virial_input_window.h"
@@ -70,6 +74,7 @@ public:
     bool TakeAll() {
         TakeChoices();
         TakeSettings();
+        TakeProjects();
         TakePoint();
         TakeDiagram();
         TakeFamilies();
@@ -188,6 +193,25 @@ private:
         SeekFirstTip(tips);
         Save(tips, "tips-window");
         tips->close();
+    }
+
+    void TakeProjects() {
+        ProjectFile project;
+        project.comment = "Lagertank 3, Füllung bei 20 °C";
+        project.database = "ORVA.Q05";
+        project.cas = session.model.substance.cas;
+        for (const char* name : {"Butan-Lager.QCF", "Flüssiggas.QCF", "Kreisprozess.QCF"})
+            if (!WriteFile(PathOf(session.state.dirProject) / PathOf(name), WriteProject(project)))
+                Fail(name, "cannot be written");
+        window.RunCommand(FindCommand("mnuData_LoadProject"));
+        QWidget* open = Form("frmCmnDlg");
+        if (auto* files = open->findChild<QListWidget*>(QStringLiteral("filOpenList")))
+            files->setCurrentRow(0);
+        if (auto* path = open->findChild<QLabel*>(QStringLiteral("lblPath")))
+            path->setText(QStringLiteral("Projekte")); // the real folder is another one each time
+        open->resize(620, 440);
+        Save(open, "project-window");
+        open->close();
     }
 
     // The window begins with any tip; a picture must not change with it.

@@ -65,6 +65,11 @@ private:
     void ShowForm(QWidget* form, Qt::WindowModality modality);
 
     void OpenDatabaseFile(const CommandRow& command);
+    void OpenLastSession(const CommandRow& command);
+    void ChooseProject(const CommandRow& command);
+    void WriteProject(const CommandRow& command);
+    void FollowProject(bool loaded);
+    void TellOverTheModels();
     void ShowStatus(const CommandRow& command);
     void ShowEosParameters(const CommandRow& command);
     void Exit(const CommandRow& command);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diagrams/catalogue.h"
 #include "diagrams/diagram_conditions.h"
+#include "shell/project.h"
 #include "shell/road.h"
 #include "shell/status_texts.h"
 #include "ui/calc/diagnosis_window.h"
@@ -14,6 +15,7 @@
 #include "ui/shell/diagram_desk.h"
 #include "ui/shell/help_desk.h"
 #include "ui/shell/main_window.h"
+#include "ui/shell/open_window.h"
 #include "ui/shell/options_window.h"
 #include "ui/shell/tip_window.h"
 #include "ui/substance/model_window.h"
@@ -35,6 +37,12 @@ mdiORVA::Handler mdiORVA::HandlerOf(CommandAction action) {
         return &mdiORVA::OpenDatabaseFile;
     case CommandAction::ShowStatus:
         return &mdiORVA::ShowStatus;
+    case CommandAction::LoadLastSession:
+        return &mdiORVA::OpenLastSession;
+    case CommandAction::LoadProject:
+        return &mdiORVA::ChooseProject;
+    case CommandAction::SaveProject:
+        return &mdiORVA::WriteProject;
     case CommandAction::ShowEosParameters:
         return &mdiORVA::ShowEosParameters;
     case CommandAction::Exit:
@@ -122,6 +130,56 @@ void mdiORVA::OpenDatabaseFile(const CommandRow&) {
     CloseStaleDiagram();
     Refresh();
     RunCommand(FindCommand("mnuStoff"));
+}
+
+void mdiORVA::OpenLastSession(const CommandRow&) {
+    CloseForms({"frmStoffWahl"});
+    FollowProject(LoadLastSession(session));
+}
+
+void mdiORVA::ChooseProject(const CommandRow&) {
+    CloseForms({"frmStoffWahl"});
+    auto* form = new frmCmnDlg(LoadProjectDialog(session), this);
+    // The next window waits until this one is gone, or it would lose the keyboard to the main window.
+    connect(form, &QDialog::accepted, this, [this, form] {
+        QMetaObject::invokeMethod(
+            this, [this, choice = form->Choice()] { FollowProject(LoadChosenProject(session, choice)); },
+            Qt::QueuedConnection);
+    });
+    connect(form, &QDialog::rejected, this, [this] { FollowProject(false); });
+    ShowForm(form, Qt::ApplicationModal);
+}
+
+void mdiORVA::WriteProject(const CommandRow&) {
+    StartSavingProject(session);
+}
+
+// Browsing alone may have changed the database.
+void mdiORVA::FollowProject(bool loaded) {
+    CloseStaleDiagram();
+    Refresh();
+    if (!loaded) {
+        startPage->FocusCurrentStep();
+        return;
+    }
+    CloseForms({"frmParinput", "frmCalcOut", "frmIsoCalc", "frmKessel"});
+    if (diagramDesk != nullptr)
+        diagramDesk->Close(); // the project brings units of its own
+    ChooseModels({});
+    QMetaObject::invokeMethod(this, &mdiORVA::TellOverTheModels, Qt::QueuedConnection);
+}
+
+// Windows get the keyboard some time after they are shown; the box belongs to the one that has it.
+void mdiORVA::TellOverTheModels() {
+    QPointer<frmQModell> models;
+    for (QWidget* form : OpenForms())
+        if (auto* found = qobject_cast<frmQModell*>(form))
+            models = found;
+    if (models != nullptr)
+        QApplication::setActiveWindow(models);
+    session.dialogs.Show(StatusMessage(session));
+    if (models != nullptr && models->isVisible())
+        BringToFront(*models);
 }
 
 void mdiORVA::ShowStatus(const CommandRow&) {
