@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "ui/diagrams/decimal_comma.h"
+
 namespace orva {
 
 namespace {
@@ -34,13 +36,7 @@ frmInputProzessLinien::frmInputProzessLinien(LimitInput& theInput, QWidget* pare
         labels[i]->setBuddy(fields[i]);
         grid->addWidget(labels[i], line, 0);
         grid->addWidget(fields[i], line, 1);
-        connect(fields[i], &QLineEdit::textEdited, this, [field = fields[i]](QString text) {
-            if (!text.contains(',')) // turned into a point while typing
-                return;
-            const int position = field->cursorPosition();
-            field->setText(text.replace(',', '.'));
-            field->setCursorPosition(position);
-        });
+        TurnCommas(*fields[i]);
     }
     auto* draw = new QPushButton(tr("Zeichnen"), this);
     draw->setObjectName("cmdDraw");

@@ -9,6 +9,8 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "ui/diagrams/decimal_comma.h"
+
 namespace orva {
 
 namespace {
@@ -62,13 +64,7 @@ frmTpVSInputBox::frmTpVSInputBox(ValueInput& theInput, QWidget* parent)
     connect(draw, &QPushButton::clicked, this, &frmTpVSInputBox::Draw);
     connect(keep, &QPushButton::clicked, this, &frmTpVSInputBox::Keep);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(value, &QLineEdit::textEdited, this, [this](QString text) {
-        if (!text.contains(',')) // turned into a point while typing
-            return;
-        const int position = value->cursorPosition();
-        value->setText(text.replace(',', '.'));
-        value->setCursorPosition(position);
-    });
+    TurnCommas(*value);
     Refresh();
 }
 
